@@ -1,0 +1,85 @@
+// KCFontStyle and KCFontStyles: one font style (bold, italic, underline, strike-out) and a set of them.
+//
+//   KCFontStyles styles;
+//   styles.Add(KCFontStyleBold());
+//   styles.Add(KCFontStyleItalic());
+//   KCString text = KCFontStyles::ToString(styles);     // "Bold,Italic"
+#pragma once
+
+#include "ncappkit/export.h"
+#include "ncappkit/foundation/KCString.h"
+
+class NCAPPKIT_EXPORT KCFontStyle {
+ public:
+  /// The styles; the values are bit positions in a KCFontStyles set.
+  enum class Kind { Bold = 0, Italic = 1, Underline = 2, StrikeOut = 3 };
+
+  /// A style of the given kind.
+  explicit KCFontStyle(Kind kind) : m_kind(kind) {}
+  KCFontStyle(const KCFontStyle&) = default;
+  KCFontStyle& operator=(const KCFontStyle&) = default;
+  virtual ~KCFontStyle();
+
+  /// The style.
+  Kind GetKind() const noexcept { return m_kind; }
+
+  friend bool operator==(const KCFontStyle& a, const KCFontStyle& b) noexcept { return a.m_kind == b.m_kind; }
+  friend bool operator!=(const KCFontStyle& a, const KCFontStyle& b) noexcept { return a.m_kind != b.m_kind; }
+
+ private:
+  Kind m_kind;
+};
+
+/// Bold.
+class NCAPPKIT_EXPORT KCFontStyleBold : public KCFontStyle {
+ public:
+  KCFontStyleBold() : KCFontStyle(Kind::Bold) {}
+};
+/// Italic.
+class NCAPPKIT_EXPORT KCFontStyleItalic : public KCFontStyle {
+ public:
+  KCFontStyleItalic() : KCFontStyle(Kind::Italic) {}
+};
+/// Underlined.
+class NCAPPKIT_EXPORT KCFontStyleUnderline : public KCFontStyle {
+ public:
+  KCFontStyleUnderline() : KCFontStyle(Kind::Underline) {}
+};
+/// Struck out.
+class NCAPPKIT_EXPORT KCFontStyleStrikeOut : public KCFontStyle {
+ public:
+  KCFontStyleStrikeOut() : KCFontStyle(Kind::StrikeOut) {}
+};
+
+/// A set of font styles (empty = regular).
+class NCAPPKIT_EXPORT KCFontStyles {
+ public:
+  /// The empty set (regular font).
+  KCFontStyles() = default;
+  KCFontStyles(const KCFontStyles&) = default;
+  KCFontStyles& operator=(const KCFontStyles&) = default;
+  virtual ~KCFontStyles();
+
+  /// Add a style to the set (adding it twice keeps it once).
+  void Add(const KCFontStyle& style) noexcept;
+  /// Remove a style from the set.
+  void Remove(const KCFontStyle& style) noexcept;
+  /// True when the style is in the set.
+  bool Has(const KCFontStyle& style) const noexcept;
+  /// True when the set is empty.
+  bool IsEmpty() const noexcept { return m_bits == 0; }
+  /// Empty the set.
+  void Clear() noexcept { m_bits = 0; }
+
+  /// Text form: the style names "Bold", "Italic", "Underline", "StrikeOut" in that order, joined with ",";
+  /// the empty set gives "".
+  static KCString ToString(const KCFontStyles& styles);
+  /// Set named by a text of ToString's form (case-insensitive, blanks ignored); unknown names are skipped.
+  static KCFontStyles FromString(const KCString& text);
+
+  friend bool operator==(const KCFontStyles& a, const KCFontStyles& b) noexcept { return a.m_bits == b.m_bits; }
+  friend bool operator!=(const KCFontStyles& a, const KCFontStyles& b) noexcept { return a.m_bits != b.m_bits; }
+
+ private:
+  unsigned m_bits = 0;
+};

@@ -1,0 +1,36 @@
+// KCPenMode: how a pen combines with what is already drawn (plain copy, or NOT-XOR for rubber bands that a
+// second drawing erases).
+//
+//   canvas.SetPenMode(KCPenModeNotXor());
+#pragma once
+
+#include "ncappkit/export.h"
+
+class NCAPPKIT_EXPORT KCPenMode {
+ public:
+  /// The combination modes.
+  enum class Kind { Copy = 0, NotXor = 1 };
+
+  /// Plain copy mode.
+  KCPenMode() = default;
+  /// The given mode.
+  explicit KCPenMode(Kind kind) : m_kind(kind) {}
+  KCPenMode(const KCPenMode&) = default;
+  KCPenMode& operator=(const KCPenMode&) = default;
+  virtual ~KCPenMode();
+
+  /// The mode.
+  Kind GetKind() const noexcept { return m_kind; }
+
+  friend bool operator==(const KCPenMode& a, const KCPenMode& b) noexcept { return a.m_kind == b.m_kind; }
+  friend bool operator!=(const KCPenMode& a, const KCPenMode& b) noexcept { return a.m_kind != b.m_kind; }
+
+ private:
+  Kind m_kind = Kind::Copy;
+};
+
+/// NOT-XOR pen mode: drawing the same thing twice restores the background.
+class NCAPPKIT_EXPORT KCPenModeNotXor : public KCPenMode {
+ public:
+  KCPenModeNotXor() : KCPenMode(Kind::NotXor) {}
+};

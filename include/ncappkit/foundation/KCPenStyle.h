@@ -1,0 +1,66 @@
+// KCPenStyle: the dash pattern of a pen, with one subclass per kind (KCPenStyleSolid, KCPenStyleDash, ...).
+//
+// A pen style is a small value; the subclasses only choose the kind, so they copy and compare freely as
+// KCPenStyle. The text forms are "Solid", "Dash", "Dot", "DashDot" and "DashDotDot".
+//
+//   KCPenStyle style = KCPenStyleDot();
+//   KCString text = KCPenStyle::ToString(style);        // "Dot"
+//   KCPenStyle back = KCPenStyle::FromString("DashDot");
+#pragma once
+
+#include "ncappkit/export.h"
+#include "ncappkit/foundation/KCString.h"
+
+class NCAPPKIT_EXPORT KCPenStyle {
+ public:
+  /// The dash patterns a pen can have.
+  enum class Kind { Solid = 0, Dash = 1, Dot = 2, DashDot = 3, DashDotDot = 4 };
+
+  /// A solid pen.
+  KCPenStyle() = default;
+  /// A pen of the given kind.
+  explicit KCPenStyle(Kind kind) : m_kind(kind) {}
+  KCPenStyle(const KCPenStyle&) = default;
+  KCPenStyle& operator=(const KCPenStyle&) = default;
+  virtual ~KCPenStyle();
+
+  /// The dash pattern.
+  Kind GetKind() const noexcept { return m_kind; }
+
+  /// Text form of the style: "Solid", "Dash", "Dot", "DashDot" or "DashDotDot".
+  static KCString ToString(const KCPenStyle& style);
+  /// Style named by `text` (case-insensitive, blanks around ignored); an unknown text gives a solid pen.
+  static KCPenStyle FromString(const KCString& text);
+
+  friend bool operator==(const KCPenStyle& a, const KCPenStyle& b) noexcept { return a.m_kind == b.m_kind; }
+  friend bool operator!=(const KCPenStyle& a, const KCPenStyle& b) noexcept { return a.m_kind != b.m_kind; }
+
+ private:
+  Kind m_kind = Kind::Solid;
+};
+
+/// Solid pen.
+class NCAPPKIT_EXPORT KCPenStyleSolid : public KCPenStyle {
+ public:
+  KCPenStyleSolid() : KCPenStyle(Kind::Solid) {}
+};
+/// Dashed pen.
+class NCAPPKIT_EXPORT KCPenStyleDash : public KCPenStyle {
+ public:
+  KCPenStyleDash() : KCPenStyle(Kind::Dash) {}
+};
+/// Dotted pen.
+class NCAPPKIT_EXPORT KCPenStyleDot : public KCPenStyle {
+ public:
+  KCPenStyleDot() : KCPenStyle(Kind::Dot) {}
+};
+/// Dash-dot pen.
+class NCAPPKIT_EXPORT KCPenStyleDashDot : public KCPenStyle {
+ public:
+  KCPenStyleDashDot() : KCPenStyle(Kind::DashDot) {}
+};
+/// Dash-dot-dot pen.
+class NCAPPKIT_EXPORT KCPenStyleDashDotDot : public KCPenStyle {
+ public:
+  KCPenStyleDashDotDot() : KCPenStyle(Kind::DashDotDot) {}
+};

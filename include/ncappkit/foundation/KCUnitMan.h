@@ -1,0 +1,14 @@
+// KCUnitMan: the class library's unit enumerations.
+//
+// tevDistUnit is the distance unit: 0 millimetre, 1 inch, 2 inch shown in thousandths (mil).
+//
+//   KCUnitMan::tevDistUnit unit = KCUnitMan::evDistMM;
+#pragma once
+
+#include "ncappkit/export.h"
+
+class NCAPPKIT_EXPORT KCUnitMan {
+ public:
+  /// Distance units.
+  enum tevDistUnit { evDistMM = 0, evDistInch = 1, evDistMil = 2 };
+};

@@ -1,7 +1,8 @@
 // KCString: the library's 8-bit character string with value semantics.
 //
-// A thin, copyable wrapper around std::string with the trimming, slicing, searching and number conversions that
-// NC-program code needs. Indices are zero-based ints; reading at or past the end (or before the start) gives
+// A thin, copyable wrapper around std::string with the trimming, slicing, searching and number conversions
+// that NC-program code needs. Indices are zero-based ints; reading at or past the end (or before the start)
+// gives
 // '\0' instead of touching memory that is not there. Numbers are written and read locale-free.
 //
 //   KCString line("  N10 G01 X12.5");
@@ -39,10 +40,10 @@ class NCAPPKIT_EXPORT KCString {
   /// Decimal text of `value`. When `forceSign` is true a positive value gets a leading '+'
   /// ("+12"); false gives the plain form ("12", "-3").
   KCString(int value, bool forceSign);
-  /// Decimal text of `value`, locale-free. `digits` >= 0 writes fixed notation with exactly that many decimals
-  /// (1.005 with 2 digits gives "1.00" or "1.01" as the binary value rounds); `digits` < 0 writes the shortest
-  /// fixed-notation text that reads back to the same double ("2.5", "10", "0.1", "0.0001", never an exponent).
-  /// `forceSign` as for the integer constructor. NaN gives "nan", infinities "inf" and "-inf".
+  /// Decimal text of `value`, locale-free. `digits` >= 0 writes fixed notation with exactly that many
+  /// decimals (1.005 with 2 digits gives "1.00" or "1.01" as the binary value rounds); `digits` < 0 writes
+  /// the shortest fixed-notation text that reads back to the same double ("2.5", "10", "0.1", "0.0001", never
+  /// an exponent). `forceSign` as for the integer constructor. NaN gives "nan", infinities "inf" and "-inf".
   KCString(double value, int digits, bool forceSign);
 
   KCString(const KCString&) = default;
@@ -69,8 +70,9 @@ class NCAPPKIT_EXPORT KCString {
 
   /// Character at `index`, or '\0' when the index is negative or at/past the end.
   char GetAt(int index) const noexcept {
-    return (index >= 0 && static_cast<std::size_t>(index) < m_text.size()) ? m_text[static_cast<std::size_t>(index)]
-                                                                           : '\0';
+    return (index >= 0 && static_cast<std::size_t>(index) < m_text.size())
+               ? m_text[static_cast<std::size_t>(index)]
+               : '\0';
   }
   /// Character at `index`, or '\0' when the index is negative or at/past the end.
   template <class I, std::enable_if_t<std::is_integral_v<I>, int> = 0>
@@ -108,8 +110,8 @@ class NCAPPKIT_EXPORT KCString {
   /// `count` characters from `first`, clipped like std::string::substr but never throwing.
   KCString substr(unsigned int first, unsigned int count = 0xFFFFFFFFu) const;
 
-  /// Position of the first occurrence of `what` at or after `from`, or npos. An empty `what` is found at `from`
-  /// when `from` is within the string (or at its end).
+  /// Position of the first occurrence of `what` at or after `from`, or npos. An empty `what` is found at
+  /// `from` when `from` is within the string (or at its end).
   std::uint64_t Find(const KCString& what, std::uint64_t from = 0) const noexcept;
   /// Position of the first occurrence of `c`, or npos.
   std::uint64_t Find(char c) const noexcept;
@@ -147,7 +149,8 @@ class NCAPPKIT_EXPORT KCString {
   KCString& operator+=(char c);
 
   /// Join a directory (this) and a file name with exactly one path separator. Either side may already carry
-  /// separators ('/' or '\\'); the joint uses '\\' on Windows and '/' elsewhere. An empty side gives the other.
+  /// separators ('/' or '\\'); the joint uses '\\' on Windows and '/' elsewhere. An empty side gives the
+  /// other.
   KCString operator&(const KCString& fileName) const;
 
   /// Case-sensitive comparisons.
@@ -161,7 +164,8 @@ class NCAPPKIT_EXPORT KCString {
   template <class I>
   bool InRange(I index) const noexcept {
     if constexpr (std::is_signed_v<I>) {
-      if (index < 0) return false;
+      if (index < 0)
+        return false;
     }
     return static_cast<std::uint64_t>(index) < m_text.size();
   }

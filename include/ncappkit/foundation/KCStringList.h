@@ -52,7 +52,8 @@ class NCAPPKIT_EXPORT KCStringList {
   }
   /// Remove the last string; does nothing on an empty list.
   void pop_back() noexcept {
-    if (!m_items.empty()) m_items.pop_back();
+    if (!m_items.empty())
+      m_items.pop_back();
   }
   /// Insert `s` before `pos`; returns the position of the new string.
   iterator insert(const_iterator pos, const KCString& s) { return m_items.insert(pos, s); }

@@ -1,0 +1,94 @@
+#include "ncappkit/foundation/KCPlatform.h"
+
+#include <atomic>
+#include <cstdio>
+#include <string>
+
+#if defined(_WIN32)
+#include <windows.h>
+#elif defined(__APPLE__)
+#include <mach-o/dyld.h>
+#else
+#include <unistd.h>
+#endif
+
+namespace {
+
+// Button sets of the message-box style (low four bits) and their buttons in order, as answer codes.
+constexpr unsigned int kIdOk = 1, kIdCancel = 2, kIdAbort = 3, kIdRetry = 4, kIdIgnore = 5, kIdYes = 6,
+                       kIdNo = 7;
+
+unsigned int DefaultHandler(HWND owner, const char* text, const char* caption, unsigned int style) {
+#if defined(_WIN32)
+  return static_cast<unsigned int>(MessageBoxA(owner, text, caption, style));
+#else
+  (void)owner;
+  std::fprintf(stderr, "[%s] %s\n", caption ? caption : "", text ? text : "");
+  return KCC_DefaultMessageBoxAnswer(style);
+#endif
+}
+
+std::atomic<KCC_MessageBoxHandler> g_handler{&DefaultHandler};
+
+}  // namespace
+
+KCC_MessageBoxHandler KCC_SetMessageBoxHandler(KCC_MessageBoxHandler handler) {
+  return g_handler.exchange(handler ? handler : &DefaultHandler);
+}
+
+unsigned int KCC_ShowMessageBox(HWND owner, const char* text, const char* caption, unsigned int style) {
+  return g_handler.load()(owner, text ? text : "", caption ? caption : "", style);
+}
+
+unsigned int KCC_DefaultMessageBoxAnswer(unsigned int style) noexcept {
+  static constexpr unsigned int kButtons[6][3] = {
+      {kIdOk, 0, 0},                    // OK
+      {kIdOk, kIdCancel, 0},            // OK, Cancel
+      {kIdAbort, kIdRetry, kIdIgnore},  // Abort, Retry, Ignore
+      {kIdYes, kIdNo, kIdCancel},       // Yes, No, Cancel
+      {kIdYes, kIdNo, 0},               // Yes, No
+      {kIdRetry, kIdCancel, 0},         // Retry, Cancel
+  };
+  const unsigned int set = style & 0x0Fu;
+  if (set > 5)
+    return kIdOk;
+  const unsigned int defaultBits = style & 0xF00u;
+  unsigned int index = 0;
+  if (defaultBits == 0x100u)
+    index = 1;
+  if (defaultBits == 0x200u)
+    index = 2;
+  const unsigned int answer = kButtons[set][index];
+  return answer != 0 ? answer : kButtons[set][0];
+}
+
+KCString KCC_GetExecutablePath() {
+#if defined(_WIN32)
+  std::string buffer(MAX_PATH, '\0');
+  for (;;) {
+    const DWORD n = GetModuleFileNameA(nullptr, buffer.data(), static_cast<DWORD>(buffer.size()));
+    if (n == 0)
+      return KCString();
+    if (n < buffer.size())
+      return KCString(buffer.substr(0, n));
+    buffer.resize(buffer.size() * 2);
+  }
+#elif defined(__APPLE__)
+  uint32_t size = 0;
+  _NSGetExecutablePath(nullptr, &size);
+  std::string buffer(size, '\0');
+  if (_NSGetExecutablePath(buffer.data(), &size) != 0)
+    return KCString();
+  return KCString(buffer.c_str());
+#else
+  std::string buffer(256, '\0');
+  for (;;) {
+    const ssize_t n = ::readlink("/proc/self/exe", buffer.data(), buffer.size());
+    if (n < 0)
+      return KCString();
+    if (static_cast<std::size_t>(n) < buffer.size())
+      return KCString(buffer.substr(0, static_cast<std::size_t>(n)));
+    buffer.resize(buffer.size() * 2);
+  }
+#endif
+}

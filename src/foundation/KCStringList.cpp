@@ -1,0 +1,3 @@
+#include "ncappkit/foundation/KCStringList.h"
+
+KCStringList::~KCStringList() = default;

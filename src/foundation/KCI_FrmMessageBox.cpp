@@ -1,0 +1,3 @@
+#include "ncappkit/foundation/KCI_FrmMessageBox.h"
+
+KCI_FrmMessageBox::~KCI_FrmMessageBox() = default;

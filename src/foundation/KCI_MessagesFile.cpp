@@ -1,0 +1,3 @@
+#include "ncappkit/foundation/KCI_MessagesFile.h"
+
+KCI_MessagesFile::~KCI_MessagesFile() = default;

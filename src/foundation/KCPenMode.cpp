@@ -1,0 +1,3 @@
+#include "ncappkit/foundation/KCPenMode.h"
+
+KCPenMode::~KCPenMode() = default;

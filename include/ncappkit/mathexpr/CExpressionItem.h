@@ -1,0 +1,186 @@
+// CExpressionItem and CExpressionItemList: the tokens of a typed-in arithmetic expression and the flat,
+// ordered list that holds them.
+//
+// An item is an operand (a double), an operator character, an open or close bracket, or one of the functions
+// SQRT, SIN, COS and TAN. KCC_MathExpression (KCC_MathExpression.h) cuts text into such a list and reduces
+// it; callers may also build and inspect lists themselves.
+//
+//   CExpressionItemList list;
+//   CExpressionItem item;
+//   item.SetOperand(2.0);
+//   list.push_back(item);
+//   item.SetOperator('+');
+//   list.push_back(item);
+//   CExpressionItemList::iterator op = list.FindOperator();   // the '+'
+//
+// FindOperator picks the next operator by a fixed priority of the characters: the first '*', else the first
+// '/', else the first '+', else the first '-'. So a list evaluates all multiplications before any division
+// and all additions before any subtraction (8/2*2 gives 2, 5-3+1 gives 1).
+//
+// A list holds at most kMaxItems items; an insertion beyond that throws std::length_error("list too long").
+// The bound sits far above any expression a person types, and keeps the cost of evaluating (which reports
+// every intermediate list, so it grows with the square of the length) well under a second.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <list>
+
+#include "ncappkit/export.h"
+#include "ncappkit/foundation/KCString.h"
+
+/// One token of an expression.
+class NCAPPKIT_EXPORT CExpressionItem {
+ public:
+  /// Kind of item.
+  enum eItemType : std::int32_t {
+    eItemUndefined = 0,
+    eItemOperand = 1,
+    eItemOperator = 2,
+    eItemOpenBracket = 3,
+    eItemCloseBracket = 4,
+    eItemFunction = 5
+  };
+  /// Function of a function item.
+  enum eFunctionName : std::int32_t {
+    eFuncNone = 0,
+    eFuncSqrt = 1,
+    eFuncSin = 2,
+    eFuncCos = 3,
+    eFuncTan = 4
+  };
+
+  /// An undefined item: value 0.0, operator blank, no function.
+  CExpressionItem() = default;
+  CExpressionItem(const CExpressionItem&) = default;
+  /// Copy all four fields.
+  CExpressionItem& operator=(const CExpressionItem&) = default;
+  virtual ~CExpressionItem();
+
+  /// True when type, value (compared exactly), operator character and function are all equal.
+  bool operator==(const CExpressionItem& other) const noexcept;
+  /// True for every pair of items; items have no order.
+  bool operator<(const CExpressionItem& other) const noexcept;
+
+  /// The kind of item.
+  eItemType GetItemType() const noexcept { return m_type; }
+  /// Set the kind only; the other fields stay.
+  void SetItemType(eItemType type) noexcept { m_type = type; }
+  /// The operand value (0.0 for a new item).
+  double GetOperand() const noexcept { return m_value; }
+  /// Make this an operand with `value`.
+  void SetOperand(double value) noexcept {
+    m_value = value;
+    m_type = eItemOperand;
+  }
+  /// The operator character (a blank when the item never was an operator).
+  char GetOperator() const noexcept { return m_operator; }
+  /// Make this an operator with character `op` (not checked).
+  void SetOperator(char op) noexcept {
+    m_operator = op;
+    m_type = eItemOperator;
+  }
+  /// Make this an open bracket (the kind only).
+  void SetOpenBracket() noexcept { m_type = eItemOpenBracket; }
+  /// Make this a close bracket (the kind only).
+  void SetCloseBracket() noexcept { m_type = eItemCloseBracket; }
+  /// Make this a function item of `function`.
+  void SetFunction(eFunctionName function) noexcept {
+    m_function = function;
+    m_type = eItemFunction;
+  }
+  /// The function (eFuncNone for a new item).
+  eFunctionName GetFunctionName() const noexcept { return m_function; }
+
+  /// True for an operand.
+  bool IsOperand() const noexcept { return m_type == eItemOperand; }
+  /// True for an operator.
+  bool IsOperator() const noexcept { return m_type == eItemOperator; }
+  /// True for an open bracket.
+  bool IsOpenBracket() const noexcept { return m_type == eItemOpenBracket; }
+  /// True for a close bracket.
+  bool IsCloseBracket() const noexcept { return m_type == eItemCloseBracket; }
+  /// True for a function.
+  bool IsFunction() const noexcept { return m_type == eItemFunction; }
+  /// True when this is an operator with character `op`.
+  bool CheckOperator(char op) const noexcept { return m_type == eItemOperator && m_operator == op; }
+
+  /// Make `item` the function named `name` (SQRT, SIN, COS or TAN in any case) and return true; false and
+  /// `item` unchanged for any other name.
+  static bool SetFunctionFromName(const KCString& name, CExpressionItem& item) noexcept;
+
+ private:
+  eItemType m_type = eItemUndefined;
+  double m_value = 0.0;
+  char m_operator = ' ';
+  eFunctionName m_function = eFuncNone;
+};
+
+/// An ordered, doubly linked list of items.
+class NCAPPKIT_EXPORT CExpressionItemList {
+ public:
+  using container_type = std::list<CExpressionItem>;
+  using iterator = container_type::iterator;
+  using const_iterator = container_type::const_iterator;
+  using size_type = container_type::size_type;
+  using value_type = CExpressionItem;
+
+  /// Most items a list holds.
+  static constexpr size_type kMaxItems = 4096;
+
+  /// Empty list.
+  CExpressionItemList() = default;
+  CExpressionItemList(const CExpressionItemList&) = default;
+  /// Copy all items.
+  CExpressionItemList& operator=(const CExpressionItemList&) = default;
+  virtual ~CExpressionItemList();
+
+  /// The next operator to apply: the first '*', else the first '/', else the first '+', else the first '-';
+  /// end() when there is none (at once for an empty list).
+  iterator FindOperator() noexcept;
+  /// As above, read-only.
+  const_iterator FindOperator() const noexcept;
+
+  /// Number of items.
+  size_type size() const noexcept { return m_items.size(); }
+  /// True when the list has no items.
+  bool empty() const noexcept { return m_items.empty(); }
+  /// Most items this list can hold (kMaxItems).
+  size_type max_size() const noexcept { return kMaxItems; }
+  /// Remove every item.
+  void clear() noexcept { m_items.clear(); }
+
+  iterator begin() noexcept { return m_items.begin(); }
+  iterator end() noexcept { return m_items.end(); }
+  const_iterator begin() const noexcept { return m_items.begin(); }
+  const_iterator end() const noexcept { return m_items.end(); }
+  const_iterator cbegin() const noexcept { return m_items.cbegin(); }
+  const_iterator cend() const noexcept { return m_items.cend(); }
+  /// The first item; the list must not be empty.
+  CExpressionItem& front() { return m_items.front(); }
+  const CExpressionItem& front() const { return m_items.front(); }
+  /// The last item; the list must not be empty.
+  CExpressionItem& back() { return m_items.back(); }
+  const CExpressionItem& back() const { return m_items.back(); }
+
+  /// Append `item`; throws std::length_error("list too long") when the list is full.
+  void push_back(const CExpressionItem& item);
+  /// Insert `item` before `pos`; throws std::length_error("list too long") when the list is full.
+  iterator insert(const_iterator pos, const CExpressionItem& item);
+  /// Insert copies of [first, last) before `pos`; throws std::length_error("list too long") (and inserts
+  /// nothing) when they do not fit.
+  iterator insert(const_iterator pos, const_iterator first, const_iterator last);
+  /// Remove the item at `pos`; returns the item behind it.
+  iterator erase(const_iterator pos) noexcept { return m_items.erase(pos); }
+  /// Remove [first, last); returns `last`.
+  iterator erase(const_iterator first, const_iterator last) noexcept { return m_items.erase(first, last); }
+
+  /// True when both lists hold equal items in the same order.
+  bool operator==(const CExpressionItemList& other) const noexcept { return m_items == other.m_items; }
+  bool operator!=(const CExpressionItemList& other) const noexcept { return !(*this == other); }
+
+ private:
+  void CheckRoomFor(size_type count) const;
+
+  container_type m_items;
+};

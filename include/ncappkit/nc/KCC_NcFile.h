@@ -1,0 +1,139 @@
+// KCC_NcFile: loads an NC file (or the same text held as a KCStringList), splits it into programs, files
+// them as main programs or sub-programs, recognises the controller structure and saves the programs again.
+//
+//   KCC_NcFile file;
+//   if (file.LoadFromFile("part.nc", /*checkFirstBlock=*/true, /*keepUnfinished=*/false) == nullptr) {
+//     if (file.HasFileNotFoundError()) ...
+//   }
+//   for (KCC_NcFileProgram* p = file.GetMainProgList().GetFirstProg(); p; p =
+//   file.GetMainProgList().GetNextProg())
+//     ...
+//   file.SaveToFile("out.nc");
+//
+// How a text is split:
+// - Lines starting with '%' are dropped. A program-number line (O1234, :1234, "O 1234 (REF)") names the
+//   current program and is its first line; the comment in brackets becomes the reference text.
+// - M30 ends a main program. M99 (or a line starting with RET) ends a sub-program, which stays current and
+//   collects the following lines until the next program-number line. With checkFirstBlock set, a program
+//   that holds the first block (M98 with P8010 on one line: Fanuc; a line starting N50 FIRST_BLOCK: Siemens)
+//   is a main program even when it ends with M99 or RET.
+// - A code directly followed by a digit (M300, M991) is no end; RET counts only at the start of a line.
+// - Whatever follows the last end: with keepUnfinished set it becomes a program of the sub-program list
+//   (also when it is empty), otherwise it is discarded.
+// - At most 999998 lines are read; one more gives the too-many-lines error.
+//
+// LoadFromFile reads through a line buffer of 128 characters: a line of more than 127 characters (line end
+// not counted) puts the reader into a failed state in which every further read gives an empty line, so such
+// a file ends with the too-many-lines error. Read such files yourself and use LoadFromStringList. Choices
+// made where the text format leaves room:
+// - A line ends at LF; a CR directly before the LF belongs to the line end (CRLF files read like LF files).
+//   A lone CR is an ordinary character; CRs and LFs at the start of a line are treated as blanks.
+// - The line the program sees ends at its first NUL byte (as in a character buffer).
+// - An empty read at the very end of the file (after the last line end) is not a line.
+// - The pending sub-program state ends whenever a new current program is started.
+//
+// Copying a KCC_NcFile copies the two lists memberwise: the copies share their programs (see
+// KCC_NcFileProgramList).
+#pragma once
+
+#include "ncappkit/export.h"
+#include "ncappkit/foundation/KCString.h"
+#include "ncappkit/foundation/KCStringList.h"
+#include "ncappkit/nc/KCC_NcFileProgram.h"
+#include "ncappkit/nc/KCC_NcFileProgramList.h"
+
+class NCAPPKIT_EXPORT KCC_NcFile {
+ public:
+  /// No programs, no file id, no error, Fanuc structure.
+  KCC_NcFile();
+  /// Memberwise copy: the lists' pointers are copied, not the programs.
+  KCC_NcFile(const KCC_NcFile& other);
+  /// Memberwise copy: the lists' pointers are copied, not the programs.
+  KCC_NcFile& operator=(const KCC_NcFile& other);
+  virtual ~KCC_NcFile();
+
+  /// Load the file `fileName`. Returns the last program stored in a list, or null with the error code set.
+  /// An empty name, a missing file and a file that cannot be opened leave the lists untouched.
+  KCC_NcFileProgram* LoadFromFile(const KCString& fileName, bool checkFirstBlock, bool keepUnfinished);
+  /// Load the lines of `text` (one line per entry). Returns the last program stored, or null with the error
+  /// code set.
+  KCC_NcFileProgram* LoadFromStringList(const KCStringList& text, bool checkFirstBlock, bool keepUnfinished);
+
+  /// Write the main programs, then the sub-programs, framed by '%' lines, to `fileName`. The text is written
+  /// to a new file beside the target which then replaces it, so a failed save leaves an existing file as it
+  /// was. False for an empty name or when the file cannot be written.
+  bool SaveToFile(const KCString& fileName);
+  /// SaveToFile on the path that joins `directory` and `fileName`.
+  bool SaveToFile(const KCString& directory, const KCString& fileName);
+
+  /// The main programs (ended by M30, or holding the first block).
+  KCC_NcFileProgramList& GetMainProgList();
+  /// The sub-programs (ended by M99 or RET, and an unfinished last program when kept).
+  KCC_NcFileProgramList& GetSubProgList();
+  /// Number of entries of the main-program list.
+  int GetNumberOfMainPrograms() const;
+  /// Number of entries of the sub-program list.
+  int GetNumberOfSubPrograms() const;
+  /// True when there is no main program.
+  bool IsMainProgramsEmpty() const;
+  /// True when there is no sub-program.
+  bool IsSubProgramsEmpty() const;
+
+  /// Delete the first main program with that number; true when there was one.
+  bool RemoveProgramFromMainProgramList(int number);
+  /// Delete the first sub-program with that number; true when there was one.
+  bool RemoveProgramFromSubProgramList(int number);
+  /// Delete all main programs.
+  void ClearMainProgramsList();
+  /// Delete all sub-programs.
+  void ClearSubProgramsList();
+  /// Delete all programs of both lists.
+  void ClearAllPrograms();
+  /// Forget the file id, reset the error code and delete all programs; the structure is kept.
+  void ReInit();
+  /// A copy of the name of the file last loaded (set also when the file held no program).
+  KCString GetLoadedFromFileId() const;
+  /// True when a program number occurs twice among the programs of both lists (-1, "no number", included).
+  bool CheckMultipleProgramNumbers() const;
+
+  /// Error code 0: the last load succeeded.
+  bool HasNoError() const;
+  /// Error code 1: LoadFromFile got an empty file name.
+  bool HasNoFileNameError() const;
+  /// Error code 2: the file does not exist (or is no regular file).
+  bool HasFileNotFoundError() const;
+  /// Error code 3: the file exists but could not be opened for reading.
+  bool HasFileOpenError() const;
+  /// Error code 4: the line budget ran out (too many lines, or a line too long for the file reader).
+  bool HasTooManyLinesError() const;
+  /// Error code 5: no complete program was found.
+  bool HasFileWithoutNcStructureError() const;
+  /// The error code of the last load (0 to 5, see the predicates).
+  int GetErrorCode() const;
+
+  /// True when the first block recognised was Fanuc's (or none was).
+  bool IsFanucNcFileStructure() const;
+  /// True when the first block recognised was Siemens'.
+  bool IsSiemensNcFileStructure() const;
+
+ protected:
+  /// Parse a program-number line (":1234", "O1234", "O 1234 (REF)"): `number` gets the leading digits, `ref`
+  /// the text between the first '(' and the first ')' when the line has both (else it is left as it was).
+  bool ParseProgramNumberLine(const KCString& line, int& number, KCString& ref);
+  /// True when `line` is a first block: M98 and P8010 outside brackets (structure becomes Fanuc), or a line
+  /// starting with "N50FIRST_BLOCK" / "N50 FIRST_BLOCK" (structure becomes Siemens).
+  bool Check_FirstBlock_Command(const char* line);
+  /// True when `line` ends a program: M30 or M99 outside brackets and not followed by a digit, or RET at the
+  /// start of the line. The flags tell which code ended the scan.
+  bool Check_M30_M99_RET_Command(const char* line, bool& isM30, bool& isM99, bool& isRET);
+
+ private:
+  class Loader;
+  friend class Loader;
+
+  KCC_NcFileProgramList m_mainPrograms;
+  KCC_NcFileProgramList m_subPrograms;
+  KCString m_loadedFromFileId;
+  int m_errorCode = 0;
+  int m_structure = 0;
+};

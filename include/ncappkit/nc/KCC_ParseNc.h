@@ -1,0 +1,156 @@
+// KCC_ParseNc: decodes single blocks of an ISO/Fanuc-style NC program into address words.
+//
+// One DecodeISOLine call splits a block into letter/number words and keeps, for every address letter the
+// parser knows, whether the word was present and its value; the getters then hand out single values. The
+// class also offers line tests that do not touch the decoded state: program end (M30, M99), program-number
+// lines (O1234 / :1234) and parameter assignment lines (#100 = 12.5 (text), NAME = 12.5 ; text).
+//
+//   KCC_ParseNc parser;
+//   parser.DecodeISOLine("N10 G01 Y0.25 F300 M03");
+//   double x = 0.0;
+//   if (parser.GetXCommand(x)) { ... }               // x == -12.5
+//
+// Decoding rules worth knowing (they are deliberate and relied on by existing callers):
+// - A repeated letter continues the earlier word of the block: X10 X20 gives X = 1020. The first G and the
+//   first M of a block go to the "primary" slot, every later one accumulates in the "secondary" slot.
+// - A word ends at any character other than '-', '.' or a digit; a blank after the letter gives no word.
+// - The sign is applied at the first non-zero digit after a '-', wherever the '-' stands in the word.
+// - GetVCommand tests whether X was present and then returns the V value.
+// - The letters H, O, Q, U, W, Z and all lower-case letters are not decoded.
+// Decoding never allocates memory.
+#pragma once
+
+#include <cstdint>
+
+#include "ncappkit/export.h"
+#include "ncappkit/foundation/KCString.h"
+
+class NCAPPKIT_EXPORT KCC_ParseNc {
+ public:
+  /// All address slots cleared (not present, 0, 0.0).
+  KCC_ParseNc();
+  /// Copies all address slots.
+  KCC_ParseNc(const KCC_ParseNc& other);
+  /// Copies all address slots.
+  KCC_ParseNc& operator=(const KCC_ParseNc& other);
+  virtual ~KCC_ParseNc();
+
+  /// Decode one block into the address slots (all slots are cleared first). True when the whole line was
+  /// scanned; false when the left-trimmed line has fewer than 2 characters, or a word holds a second '-'
+  /// before its sign was applied, or a second '.'. Words decoded before a fault keep their values.
+  bool DecodeISOLine(const KCString& line);
+
+  /// A value of the last decoded block: true and `value` set when the letter was present, else false and
+  /// `value` untouched.
+  bool GetACommand(int& value) const;
+  bool GetACommand(double& value) const;
+  bool GetBCommand(int& value) const;
+  bool GetBCommand(double& value) const;
+  bool GetCCommand(int& value) const;
+  bool GetCCommand(double& value) const;
+  bool GetDCommand(double& value) const;
+  bool GetECommand(int& value) const;
+  bool GetFCommand(int& value) const;
+  /// The first G word of the block.
+  bool GetGprimCommand(int& value) const;
+  bool GetGprimCommand(double& value) const;
+  /// Every later G word of the block, accumulated into one value (G90 G01 G02: 102).
+  bool GetGsecundCommand(double& value) const;
+  bool GetICommand(double& value) const;
+  bool GetJCommand(double& value) const;
+  bool GetKCommand(int& value) const;
+  bool GetLCommand(int& value) const;
+  /// The first M word of the block.
+  bool GetMprimCommand(int& value) const;
+  /// Every later M word of the block, accumulated into one value.
+  bool GetMsecCommand(int& value) const;
+  bool GetNCommand(int& value) const;
+  bool GetPCommand(int& value) const;
+  bool GetSCommand(int& value) const;
+  bool GetSCommand(double& value) const;
+  bool GetRCommand(double& value) const;
+  bool GetTCommand(int& value) const;
+  /// True when X was present; then `value` is the V value (0.0 when the block had no V).
+  bool GetVCommand(double& value) const;
+  bool GetXCommand(double& value) const;
+  bool GetYCommand(double& value) const;
+
+  /// True when the NUL-terminated `line` holds M30 outside round brackets, not followed by a digit.
+  bool Check_M30_Command(char* line);
+  /// As above, for a read-only text.
+  bool Check_M30_Command(const char* line);
+  /// True when `line` holds M30 or M99 outside round brackets, not followed by a digit. The flags tell which
+  /// code ended the scan; on false they are false, unless no position outside brackets was examined (then
+  /// they keep the caller's values).
+  bool Check_M30_M99_Command(char* line, bool& foundM30, bool& foundM99);
+  /// As above, for a read-only text.
+  bool Check_M30_M99_Command(const char* line, bool& foundM30, bool& foundM99);
+
+  /// Parse a program-number line (O1234, :1234, :O1234, leading blanks allowed) into `number`. False when the
+  /// line is not one.
+  bool GetProgramNumber(const KCString& line, int& number);
+  /// As GetProgramNumber; on success also appends "(text)" to `comment` (not cleared first), the text between
+  /// the last '(' and the first ')', or "()" when the line has no such pair.
+  bool GetProgramNumberWithComment(const KCString& line, int& number, KCString& comment);
+
+  /// Parse a numbered parameter line "#nnn = value (comment)". The parameter number is read from the three
+  /// characters after '#', and the first four characters are then dropped whatever they are, so a shorter
+  /// number does not parse ("#1 = 5" gives false). `valueText` gets the text after '=' up to the first '('.
+  /// A malformed value sets `error` and returns `resultOnError`.
+  bool GetNcParameter(const KCString& line, int& paramNumber, int& intValue, double& doubleValue,
+                      KCString& valueText, bool resultOnError, bool& error);
+  /// Short form: a malformed value gives false.
+  bool GetNcParameter(const KCString& line, int& paramNumber, int& intValue, double& doubleValue);
+  /// Parse a named parameter line "NAME = value ; comment". `name` is the trimmed text before '=';
+  /// `valueText` the text after '=' up to the first ';'. A malformed value sets `error` and returns
+  /// `resultOnError`. A line starting with ';' is a comment and gives false.
+  bool GetNcTextParameter(const KCString& line, KCString& name, int& intValue, double& doubleValue,
+                          KCString& valueText, bool resultOnError, bool& error);
+  /// Short form: a malformed value gives false.
+  bool GetNcTextParameter(const KCString& line, KCString& name, int& intValue, double& doubleValue);
+
+ protected:
+  /// True for '-', '.' and the digits; false for everything else ('+', ',', blanks, 'E', ...).
+  bool IsCharNumeric(char c) const;
+
+ private:
+  /// One address letter of the block.
+  struct NcAddressSlot {
+    bool present = false;
+    std::int32_t intValue = 0;
+    double doubleValue = 0.0;
+  };
+
+  // The slots in their fixed order; kSpare is never filled or read, it only keeps the layout.
+  enum Slot : int {
+    kA,
+    kB,
+    kC,
+    kD,
+    kE,
+    kF,
+    kGPrim,
+    kGSec,
+    kI,
+    kJ,
+    kK,
+    kL,
+    kMPrim,
+    kMSec,
+    kN,
+    kSpare,
+    kP,
+    kS,
+    kR,
+    kT,
+    kV,
+    kX,
+    kY,
+    kSlotCount
+  };
+
+  bool GetInt(int slot, int& value) const;
+  bool GetDouble(int slot, double& value) const;
+
+  NcAddressSlot m_slots[kSlotCount];
+};

@@ -1,0 +1,570 @@
+// KCC_NcFile: splitting NC text into programs, reading NC files line by line and saving them.
+#include "ncappkit/nc/KCC_NcFile.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <system_error>
+#include <utility>
+#include <vector>
+
+#include "ncappkit/foundation/KCFileMan.h"
+
+namespace {
+
+constexpr int kNoError = 0;
+constexpr int kNoFileNameError = 1;
+constexpr int kFileNotFoundError = 2;
+constexpr int kFileOpenError = 3;
+constexpr int kTooManyLinesError = 4;
+constexpr int kNoNcStructureError = 5;
+
+constexpr int kFanucStructure = 0;
+constexpr int kSiemensStructure = 1;
+
+// Lines a load may consume: the budget is decremented before each line and reading stops when it drops
+// below 1, so at most kLineBudget - 1 lines are processed.
+constexpr int kLineBudget = 999999;
+
+// The file reader's line buffer: 128 characters including the terminating NUL.
+constexpr std::size_t kLineBufferSize = 128;
+constexpr std::size_t kMaxLineLength = kLineBufferSize - 1;
+
+inline bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+inline bool IsBlank(char c) {
+  return c == ' ' || c == '\t';
+}
+
+// Length of the text as a C string would see it (up to the first NUL).
+inline std::size_t CLength(const char* p, std::size_t n) {
+  const void* nul = std::memchr(p, '\0', n);
+  return nul == nullptr ? n : static_cast<std::size_t>(static_cast<const char*>(nul) - p);
+}
+
+// Program-number line on a text of known length: ':' or 'O' (after leading blanks), optional blanks, then
+// digits. When the text holds both '(' and ')', [refBegin, refBegin + refLength) is set to the text between
+// the first of each and hasRef becomes true.
+bool ParseNumberLine(const char* p, std::size_t n, int& number, std::size_t& refBegin, std::size_t& refLength,
+                     bool& hasRef) {
+  std::size_t i = 0;
+  while (i < n && IsBlank(p[i]))
+    ++i;
+  if (n - i < 2)
+    return false;
+  if (p[i] != ':' && p[i] != 'O')
+    return false;
+  ++i;
+  while (i < n && IsBlank(p[i]))
+    ++i;
+  if (i >= n || !IsDigit(p[i]))
+    return false;
+  std::uint32_t value = 0;
+  for (; i < n && IsDigit(p[i]); ++i)
+    value = value * 10u + static_cast<std::uint32_t>(p[i] - '0');
+  number = static_cast<int>(value);
+
+  const void* open = std::memchr(p, '(', n);
+  const void* close = std::memchr(p, ')', n);
+  hasRef = open != nullptr && close != nullptr;
+  if (hasRef) {
+    const std::size_t o = static_cast<std::size_t>(static_cast<const char*>(open) - p);
+    const std::size_t c = static_cast<std::size_t>(static_cast<const char*>(close) - p);
+    refBegin = o + 1;
+    refLength = c > o ? c - o - 1 : 0;
+  }
+  return true;
+}
+
+// First-block test on a C-string text of length n: -1 none, else the structure it marks.
+int FirstBlockKind(const char* p, std::size_t n) {
+  if (n < 8)
+    return -1;
+  bool foundM98 = false;
+  bool foundP8010 = false;
+  bool inComment = false;
+  for (std::size_t i = 0; i + 5 <= n; ++i) {
+    const char c = p[i];
+    if (c == '(') {
+      inComment = true;
+      continue;
+    }
+    if (c == ')')
+      inComment = false;
+    if (inComment)
+      continue;
+    if (!foundM98 && std::memcmp(p + i, "M98", 3) == 0)
+      foundM98 = true;
+    if (!foundP8010 && std::memcmp(p + i, "P8010", 5) == 0)
+      foundP8010 = true;
+    if (foundM98 && foundP8010)
+      return kFanucStructure;
+  }
+  if (n < 14)
+    return -1;
+  if (std::memcmp(p, "N50FIRST_BLOCK", 14) == 0)
+    return kSiemensStructure;
+  if (n >= 15 && std::memcmp(p, "N50 FIRST_BLOCK", 15) == 0)
+    return kSiemensStructure;
+  return -1;
+}
+
+// End-of-program test on a C-string text of length n.
+bool EndCommand(const char* p, std::size_t n, bool& isM30, bool& isM99, bool& isRET) {
+  if (n < 3)
+    return false;
+  const std::size_t last = n - 3;
+  bool inComment = false;
+  for (std::size_t i = 0; i <= last; ++i) {
+    const char c = p[i];
+    if (c == '(') {
+      inComment = true;
+      continue;
+    }
+    if (c == ')')
+      inComment = false;
+    if (inComment)
+      continue;
+    isM99 = c == 'M' && p[i + 1] == '9' && p[i + 2] == '9';
+    isM30 = c == 'M' && p[i + 1] == '3' && p[i + 2] == '0';
+    isRET = c == 'R' && p[i + 1] == 'E' && p[i + 2] == 'T';
+    if ((isM99 || isM30) && (i == last || !IsDigit(p[i + 3])))
+      return true;
+    if (isRET && i == 0)
+      return true;
+  }
+  return false;
+}
+
+// Reads a file through a large block buffer and hands out its lines as a reader with a 128-character line
+// buffer would see them: a line ends at LF (a CR right before it is part of the line end); a line longer
+// than 127 characters gives its first 127 characters and puts the reader into a failed state, after which
+// every read gives an empty line and the end is never reached. The line handed out ends at its first NUL.
+class BufferedLineReader {
+ public:
+  explicit BufferedLineReader(std::FILE* file) : m_file(file), m_buffer(kBlockSize) {}
+
+  // The next line in [p, p + n); false at the end of the file.
+  bool Next(const char*& p, std::size_t& n) {
+    if (m_failed) {
+      p = m_buffer.data();
+      n = 0;
+      return true;
+    }
+    for (;;) {
+      const char* begin = m_buffer.data() + m_pos;
+      const std::size_t available = m_end - m_pos;
+      const void* lf = std::memchr(begin, '\n', available);
+      if (lf != nullptr) {
+        std::size_t length = static_cast<std::size_t>(static_cast<const char*>(lf) - begin);
+        m_pos += length + 1;
+        if (length > 0 && begin[length - 1] == '\r')
+          --length;
+        return Hand(begin, length, p, n);
+      }
+      if (m_atEof) {
+        if (available == 0)
+          return false;
+        m_pos = m_end;
+        return Hand(begin, available, p, n);
+      }
+      if (available > kMaxLineLength + 1) {
+        // No line end within reach: this line is too long whatever follows.
+        return Hand(begin, available, p, n);
+      }
+      Refill();
+    }
+  }
+
+ private:
+  static constexpr std::size_t kBlockSize = std::size_t{1} << 20;
+
+  bool Hand(const char* begin, std::size_t length, const char*& p, std::size_t& n) {
+    if (length > kMaxLineLength) {
+      m_failed = true;
+      length = kMaxLineLength;
+    }
+    p = begin;
+    n = CLength(begin, length);
+    return true;
+  }
+
+  void Refill() {
+    const std::size_t keep = m_end - m_pos;
+    if (keep > 0 && m_pos > 0)
+      std::memmove(m_buffer.data(), m_buffer.data() + m_pos, keep);
+    m_pos = 0;
+    m_end = keep;
+    const std::size_t got = std::fread(m_buffer.data() + m_end, 1, m_buffer.size() - m_end, m_file);
+    m_end += got;
+    if (got == 0)
+      m_atEof = true;  // end of file or read error: either way nothing more comes
+  }
+
+  std::FILE* m_file;
+  std::vector<char> m_buffer;
+  std::size_t m_pos = 0;
+  std::size_t m_end = 0;
+  bool m_atEof = false;
+  bool m_failed = false;
+};
+
+struct FileCloser {
+  void operator()(std::FILE* f) const {
+    if (f != nullptr)
+      std::fclose(f);
+  }
+};
+using FilePtr = std::unique_ptr<std::FILE, FileCloser>;
+
+}  // namespace
+
+// The splitting state of one load. Lines are fed in order; Finish files the last program and sets the
+// error code.
+class KCC_NcFile::Loader {
+ public:
+  Loader(KCC_NcFile& file, bool checkFirstBlock, bool keepUnfinished)
+      : m_file(file), m_checkFirstBlock(checkFirstBlock), m_keepUnfinished(keepUnfinished) {
+    m_file.m_errorCode = kNoError;
+    m_file.m_mainPrograms.ClearWithContents();
+    m_file.m_subPrograms.ClearWithContents();
+    m_current.reset(new KCC_NcFileProgram());
+  }
+
+  // Process one line; false when the line budget ran out (the line was not processed and reading must stop).
+  bool Line(const char* p, std::size_t n) {
+    if (--m_budget < 1) {
+      m_budgetRanOut = true;
+      return false;
+    }
+    // Leading line ends count as blanks and go with them.
+    std::size_t skip = 0;
+    while (skip < n && (IsBlank(p[skip]) || p[skip] == '\r' || p[skip] == '\n'))
+      ++skip;
+    p += skip;
+    n -= skip;
+
+    int number = 0;
+    std::size_t refBegin = 0;
+    std::size_t refLength = 0;
+    bool hasRef = false;
+    if (n >= 2 && (p[0] == ':' || p[0] == 'O') &&
+        ParseNumberLine(p, n, number, refBegin, refLength, hasRef)) {
+      if (m_pendingSub) {
+        Store(m_file.m_subPrograms);
+        StartNewProgram();
+      }
+      m_current->SetProgramNumber(number);
+      if (hasRef)
+        m_current->SetProgramRef(KCString(p + refBegin, refLength));
+    }
+
+    if (n == 0 || p[0] != '%')
+      m_current->GetStringList().emplace_back(p, n);
+
+    const std::size_t cLength = CLength(p, n);
+    if (m_checkFirstBlock && !m_firstBlockFound) {
+      const int kind = FirstBlockKind(p, cLength);
+      if (kind >= 0) {
+        m_file.m_structure = kind;
+        m_firstBlockFound = true;
+      }
+    }
+
+    bool isM30 = false;
+    bool isM99 = false;
+    bool isRET = false;
+    if (!EndCommand(p, cLength, isM30, isM99, isRET))
+      return true;
+    if (isM30 || (m_checkFirstBlock && m_firstBlockFound)) {
+      Store(m_file.m_mainPrograms);
+      StartNewProgram();
+    } else {
+      m_pendingSub = true;
+    }
+    return true;
+  }
+
+  KCC_NcFileProgram* Finish() {
+    if (m_pendingSub || m_keepUnfinished) {
+      Store(m_file.m_subPrograms);
+    } else {
+      m_current.reset();
+    }
+    if (m_budgetRanOut) {
+      m_file.m_errorCode = kTooManyLinesError;
+      return nullptr;
+    }
+    if (m_lastStored == nullptr) {
+      m_file.m_errorCode = kNoNcStructureError;
+      return nullptr;
+    }
+    return m_lastStored;
+  }
+
+  bool BudgetRanOut() const { return m_budgetRanOut; }
+
+ private:
+  void Store(KCC_NcFileProgramList& list) {
+    m_lastStored = m_current.release();
+    list.AddProgram(m_lastStored);
+  }
+
+  void StartNewProgram() {
+    m_current.reset(new KCC_NcFileProgram());
+    m_firstBlockFound = false;
+    m_pendingSub = false;
+  }
+
+  KCC_NcFile& m_file;
+  const bool m_checkFirstBlock;
+  const bool m_keepUnfinished;
+  std::unique_ptr<KCC_NcFileProgram> m_current;
+  KCC_NcFileProgram* m_lastStored = nullptr;
+  int m_budget = kLineBudget;
+  bool m_budgetRanOut = false;
+  bool m_firstBlockFound = false;
+  bool m_pendingSub = false;
+};
+
+KCC_NcFile::KCC_NcFile() = default;
+KCC_NcFile::KCC_NcFile(const KCC_NcFile& other) = default;
+KCC_NcFile& KCC_NcFile::operator=(const KCC_NcFile& other) = default;
+KCC_NcFile::~KCC_NcFile() = default;
+
+KCC_NcFileProgram* KCC_NcFile::LoadFromStringList(const KCStringList& text, bool checkFirstBlock,
+                                                  bool keepUnfinished) {
+  Loader loader(*this, checkFirstBlock, keepUnfinished);
+  for (const KCString& line : text) {
+    if (!loader.Line(line.str().data(), line.size()))
+      break;
+  }
+  return loader.Finish();
+}
+
+KCC_NcFileProgram* KCC_NcFile::LoadFromFile(const KCString& fileName, bool checkFirstBlock,
+                                            bool keepUnfinished) {
+  if (fileName.IsEmpty()) {
+    m_errorCode = kNoFileNameError;
+    return nullptr;
+  }
+  if (!KCFileMan::FileExists(fileName)) {
+    m_errorCode = kFileNotFoundError;
+    return nullptr;
+  }
+  FilePtr file(std::fopen(fileName.c_str(), "rb"));
+  if (!file) {
+    m_errorCode = kFileOpenError;
+    return nullptr;
+  }
+  Loader loader(*this, checkFirstBlock, keepUnfinished);
+  BufferedLineReader reader(file.get());
+  const char* p = nullptr;
+  std::size_t n = 0;
+  while (reader.Next(p, n)) {
+    if (!loader.Line(p, n))
+      break;
+  }
+  file.reset();
+  KCC_NcFileProgram* result = loader.Finish();
+  if (!loader.BudgetRanOut())
+    m_loadedFromFileId = fileName;
+  return result;
+}
+
+bool KCC_NcFile::SaveToFile(const KCString& fileName) {
+  if (fileName.IsEmpty())
+    return false;
+#if defined(_WIN32)
+  static const char kLineEnd[] = "\r\n";
+#else
+  static const char kLineEnd[] = "\n";
+#endif
+  const std::size_t lineEndLength = std::strlen(kLineEnd);
+
+  // Write into a fresh file beside the target, then let it replace the target.
+  const std::string target = fileName.str();
+  std::string temp;
+  FilePtr out;
+  for (int attempt = 0; attempt < 100 && !out; ++attempt) {
+    temp = target + ".~save" + std::to_string(attempt);
+    out.reset(std::fopen(temp.c_str(), "wbx"));
+    if (!out && errno != EEXIST)
+      return false;
+  }
+  if (!out)
+    return false;
+
+  std::string block;
+  bool ok = true;
+  auto flush = [&](bool force) {
+    if (block.size() >= (std::size_t{1} << 20) || (force && !block.empty())) {
+      if (std::fwrite(block.data(), 1, block.size(), out.get()) != block.size())
+        ok = false;
+      block.clear();
+    }
+  };
+  auto writeLine = [&](const KCString& line) {
+    block.append(line.str());
+    block.append(kLineEnd, lineEndLength);
+    flush(false);
+  };
+
+  bool wroteAny = false;
+  bool lastWasPercent = false;
+  for (KCC_NcFileProgramList* list : {&m_mainPrograms, &m_subPrograms}) {
+    for (int i = 0; i < list->GetNumberOfPrograms(); ++i) {
+      const KCC_NcFileProgram* program = list->GetProgram(i);
+      if (program == nullptr)
+        continue;
+      const KCStringList& lines = program->GetStringList();
+      if (!wroteAny && (lines.empty() || lines.front() != "%")) {
+        writeLine("%");
+        lastWasPercent = true;
+      }
+      wroteAny = true;
+      for (const KCString& line : lines) {
+        writeLine(line);
+        lastWasPercent = line == "%";
+      }
+    }
+  }
+  if (wroteAny && !lastWasPercent)
+    writeLine("%");
+  flush(true);
+  if (std::fclose(out.release()) != 0)
+    ok = false;
+
+  std::error_code ec;
+  if (ok)
+    std::filesystem::rename(temp, target, ec);
+  if (!ok || ec) {
+    std::filesystem::remove(temp, ec);
+    return false;
+  }
+  return true;
+}
+
+bool KCC_NcFile::SaveToFile(const KCString& directory, const KCString& fileName) {
+  return SaveToFile(directory & fileName);
+}
+
+KCC_NcFileProgramList& KCC_NcFile::GetMainProgList() {
+  return m_mainPrograms;
+}
+KCC_NcFileProgramList& KCC_NcFile::GetSubProgList() {
+  return m_subPrograms;
+}
+int KCC_NcFile::GetNumberOfMainPrograms() const {
+  return m_mainPrograms.GetNumberOfPrograms();
+}
+int KCC_NcFile::GetNumberOfSubPrograms() const {
+  return m_subPrograms.GetNumberOfPrograms();
+}
+bool KCC_NcFile::IsMainProgramsEmpty() const {
+  return m_mainPrograms.IsEmpty();
+}
+bool KCC_NcFile::IsSubProgramsEmpty() const {
+  return m_subPrograms.IsEmpty();
+}
+
+bool KCC_NcFile::RemoveProgramFromMainProgramList(int number) {
+  return m_mainPrograms.RemoveProgramFromList(number);
+}
+bool KCC_NcFile::RemoveProgramFromSubProgramList(int number) {
+  return m_subPrograms.RemoveProgramFromList(number);
+}
+void KCC_NcFile::ClearMainProgramsList() {
+  m_mainPrograms.ClearWithContents();
+}
+void KCC_NcFile::ClearSubProgramsList() {
+  m_subPrograms.ClearWithContents();
+}
+void KCC_NcFile::ClearAllPrograms() {
+  m_mainPrograms.ClearWithContents();
+  m_subPrograms.ClearWithContents();
+}
+
+void KCC_NcFile::ReInit() {
+  m_loadedFromFileId = KCString();
+  m_errorCode = kNoError;
+  ClearAllPrograms();
+}
+
+KCString KCC_NcFile::GetLoadedFromFileId() const {
+  return m_loadedFromFileId;
+}
+
+bool KCC_NcFile::CheckMultipleProgramNumbers() const {
+  std::vector<int> numbers;
+  for (const KCC_NcFileProgramList* list : {&m_mainPrograms, &m_subPrograms}) {
+    for (int i = 0; i < list->GetNumberOfPrograms(); ++i) {
+      if (const KCC_NcFileProgram* program = list->GetProgram(i))
+        numbers.push_back(program->GetProgramNumber());
+    }
+  }
+  std::sort(numbers.begin(), numbers.end());
+  return std::adjacent_find(numbers.begin(), numbers.end()) != numbers.end();
+}
+
+bool KCC_NcFile::HasNoError() const {
+  return m_errorCode == kNoError;
+}
+bool KCC_NcFile::HasNoFileNameError() const {
+  return m_errorCode == kNoFileNameError;
+}
+bool KCC_NcFile::HasFileNotFoundError() const {
+  return m_errorCode == kFileNotFoundError;
+}
+bool KCC_NcFile::HasFileOpenError() const {
+  return m_errorCode == kFileOpenError;
+}
+bool KCC_NcFile::HasTooManyLinesError() const {
+  return m_errorCode == kTooManyLinesError;
+}
+bool KCC_NcFile::HasFileWithoutNcStructureError() const {
+  return m_errorCode == kNoNcStructureError;
+}
+int KCC_NcFile::GetErrorCode() const {
+  return m_errorCode;
+}
+
+bool KCC_NcFile::IsFanucNcFileStructure() const {
+  return m_structure == kFanucStructure;
+}
+bool KCC_NcFile::IsSiemensNcFileStructure() const {
+  return m_structure == kSiemensStructure;
+}
+
+bool KCC_NcFile::ParseProgramNumberLine(const KCString& line, int& number, KCString& ref) {
+  std::size_t refBegin = 0;
+  std::size_t refLength = 0;
+  bool hasRef = false;
+  const std::string& text = line.str();
+  if (!ParseNumberLine(text.data(), text.size(), number, refBegin, refLength, hasRef))
+    return false;
+  if (hasRef)
+    ref = KCString(text.data() + refBegin, refLength);
+  return true;
+}
+
+bool KCC_NcFile::Check_FirstBlock_Command(const char* line) {
+  if (line == nullptr)
+    return false;
+  const int kind = FirstBlockKind(line, std::strlen(line));
+  if (kind < 0)
+    return false;
+  m_structure = kind;
+  return true;
+}
+
+bool KCC_NcFile::Check_M30_M99_RET_Command(const char* line, bool& isM30, bool& isM99, bool& isRET) {
+  if (line == nullptr)
+    return false;
+  return EndCommand(line, std::strlen(line), isM30, isM99, isRET);
+}

@@ -1,0 +1,453 @@
+// Block decoding and line tests of KCC_ParseNc.
+#include "ncappkit/nc/KCC_ParseNc.h"
+
+#include <cstring>
+
+namespace {
+
+constexpr int kNoSlot = -1;
+constexpr int kGLetter = -2;  // G: primary or secondary slot, chosen at run time
+constexpr int kMLetter = -3;  // M: likewise
+
+inline bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+inline bool IsBlank(char c) {
+  return c == ' ' || c == '\t';
+}
+
+// Integer arithmetic that wraps at 32 bits instead of overflowing.
+inline std::int32_t WrapMulAdd(std::int32_t value, std::int32_t factor, std::int32_t add) {
+  return static_cast<std::int32_t>(static_cast<std::uint32_t>(value) * static_cast<std::uint32_t>(factor) +
+                                   static_cast<std::uint32_t>(add));
+}
+inline std::int32_t WrapNeg(std::int32_t value) {
+  return static_cast<std::int32_t>(0u - static_cast<std::uint32_t>(value));
+}
+
+// The value part of a parameter line: digits with at most one point and an optional leading '-'. A
+// character outside that set ends the value (a trailing comment is allowed).
+bool ScanParameterValue(const char* text, std::size_t length, int& intValue, double& doubleValue,
+                        bool resultOnError, bool& error) {
+  intValue = 0;
+  doubleValue = 0.0;
+  bool integerPart = true;
+  bool negative = false;
+  double divisor = 10.0;
+  auto at = [&](std::size_t i) { return i < length ? text[i] : '\0'; };
+
+  const char first = at(0);
+  if (!IsDigit(first) && first != '.' && first != '-') {
+    error = true;
+    return resultOnError;
+  }
+  for (std::size_t i = 0; i < length; ++i) {
+    const char c = text[i];
+    if (c == '-') {
+      if (i != 0 || !(IsDigit(at(1)) || at(1) == '.')) {
+        error = true;
+        return resultOnError;
+      }
+      negative = true;
+    } else if (c == '.') {
+      if (!IsDigit(at(i + 1)))
+        return false;
+      if (!integerPart) {
+        error = true;
+        return resultOnError;
+      }
+      integerPart = false;
+      doubleValue = intValue;
+    } else if (IsDigit(c)) {
+      const int digit = c - '0';
+      if (integerPart) {
+        intValue = WrapMulAdd(intValue, 10, digit);
+      } else {
+        doubleValue += digit / divisor;
+        divisor *= 10.0;
+      }
+    } else {
+      break;
+    }
+  }
+  if (integerPart)
+    doubleValue = intValue;
+  if (negative) {
+    doubleValue = 0.0 - doubleValue;
+    intValue = WrapNeg(intValue);
+  }
+  return true;
+}
+
+// Shared scan of the program-end tests. `codes` are three-character codes compared at every position
+// outside round brackets; `found[k]` is written at each such position. Returns the index of the code that
+// ended the scan, or -1.
+template <int N>
+int ScanEndCodes(const char* line, const char* const (&codes)[N], bool* found[N]) {
+  if (line == nullptr)
+    return -1;
+  const std::size_t length = std::strlen(line);
+  if (length < 3)
+    return -1;
+  const std::size_t last = length - 3;
+  bool inComment = false;
+  for (std::size_t i = 0; i <= last; ++i) {
+    const char c = line[i];
+    if (c == '(') {
+      inComment = true;
+      continue;
+    }
+    if (c == ')')
+      inComment = false;
+    if (inComment)
+      continue;
+    int hit = -1;
+    for (int k = 0; k < N; ++k) {
+      const bool match = std::memcmp(line + i, codes[k], 3) == 0;
+      *found[k] = match;
+      if (match)
+        hit = k;
+    }
+    if (hit >= 0 && (i == last || !IsDigit(line[i + 3])))
+      return hit;
+  }
+  return -1;
+}
+
+}  // namespace
+
+KCC_ParseNc::KCC_ParseNc() = default;
+KCC_ParseNc::KCC_ParseNc(const KCC_ParseNc& other) = default;
+KCC_ParseNc& KCC_ParseNc::operator=(const KCC_ParseNc& other) = default;
+KCC_ParseNc::~KCC_ParseNc() = default;
+
+bool KCC_ParseNc::IsCharNumeric(char c) const {
+  return c == '-' || c == '.' || IsDigit(c);
+}
+
+bool KCC_ParseNc::DecodeISOLine(const KCString& line) {
+  // Slot selected by each upper-case letter A..Z; letters the parser does not decode map to kNoSlot.
+  static constexpr int kLetterSlot[26] = {kA, kB, kC,      kD,       kE,      kF,      kGLetter, kNoSlot, kI,
+                                          kJ, kK, kL,      kMLetter, kN,      kNoSlot, kP,       kNoSlot, kR,
+                                          kS, kT, kNoSlot, kV,       kNoSlot, kX,      kY,       kNoSlot};
+  // Slots whose double value is maintained while digits arrive.
+  static constexpr bool kKeepsDouble[kSlotCount] = {true,  true, true, true,  false, false, true,  true,
+                                                    true,  true, true, false, false, false, false, false,
+                                                    false, true, true, false, true,  true,  true};
+
+  for (int s = 0; s < kSlotCount; ++s) {
+    if (s == kSpare)
+      continue;
+    m_slots[s] = NcAddressSlot{};
+  }
+
+  const std::string& text = line.str();
+  const char* p = text.data();
+  const char* const end = p + text.size();
+  while (p != end && IsBlank(*p))
+    ++p;
+  if (end - p < 2)
+    return false;
+
+  bool inComment = false;
+  NcAddressSlot* current = nullptr;
+  bool keepsDouble = false;
+  bool integerPart = true;
+  bool minusPending = false;
+  std::int32_t divisor = 10;
+
+  for (; p != end; ++p) {
+    const char c = *p;
+    if (inComment) {
+      if (c != ')')
+        continue;
+      inComment = false;
+    } else if (c == '(') {
+      inComment = true;
+      current = nullptr;
+      continue;
+    }
+    if (c >= 'A' && c <= 'Z') {
+      int slot = kLetterSlot[c - 'A'];
+      if (slot == kGLetter)
+        slot = m_slots[kGPrim].present ? kGSec : kGPrim;
+      if (slot == kMLetter)
+        slot = m_slots[kMPrim].present ? kMSec : kMPrim;
+      if (slot != kNoSlot) {
+        current = &m_slots[slot];
+        keepsDouble = kKeepsDouble[slot];
+        integerPart = true;
+        minusPending = false;
+        divisor = 10;
+        continue;
+      }
+    }
+    if (current == nullptr)
+      continue;
+    if (!IsCharNumeric(c)) {
+      current = nullptr;
+      continue;
+    }
+    current->present = true;
+    if (c == '-') {
+      if (minusPending)
+        return false;
+      minusPending = true;
+      continue;
+    }
+    if (c == '.') {
+      if (!integerPart)
+        return false;
+      integerPart = false;
+    } else {
+      const int digit = c - '0';
+      if (integerPart) {
+        current->intValue = current->intValue >= 0 ? WrapMulAdd(current->intValue, 10, digit)
+                                                   : WrapMulAdd(current->intValue, 10, -digit);
+        if (keepsDouble)
+          current->doubleValue = current->intValue;
+      } else {
+        const double fraction = static_cast<double>(digit) / static_cast<double>(divisor);
+        current->doubleValue =
+            current->doubleValue >= 0.0 ? current->doubleValue + fraction : current->doubleValue - fraction;
+        divisor = WrapMulAdd(divisor, 10, 0);
+      }
+    }
+    if (minusPending && c != '.' && c != '0') {
+      current->intValue = WrapNeg(current->intValue);
+      if (keepsDouble)
+        current->doubleValue = 0.0 - current->doubleValue;
+      minusPending = false;
+    }
+  }
+  return true;
+}
+
+bool KCC_ParseNc::GetInt(int slot, int& value) const {
+  if (!m_slots[slot].present)
+    return false;
+  value = m_slots[slot].intValue;
+  return true;
+}
+
+bool KCC_ParseNc::GetDouble(int slot, double& value) const {
+  if (!m_slots[slot].present)
+    return false;
+  value = m_slots[slot].doubleValue;
+  return true;
+}
+
+bool KCC_ParseNc::GetACommand(int& value) const {
+  return GetInt(kA, value);
+}
+bool KCC_ParseNc::GetACommand(double& value) const {
+  return GetDouble(kA, value);
+}
+bool KCC_ParseNc::GetBCommand(int& value) const {
+  return GetInt(kB, value);
+}
+bool KCC_ParseNc::GetBCommand(double& value) const {
+  return GetDouble(kB, value);
+}
+bool KCC_ParseNc::GetCCommand(int& value) const {
+  return GetInt(kC, value);
+}
+bool KCC_ParseNc::GetCCommand(double& value) const {
+  return GetDouble(kC, value);
+}
+bool KCC_ParseNc::GetDCommand(double& value) const {
+  return GetDouble(kD, value);
+}
+bool KCC_ParseNc::GetECommand(int& value) const {
+  return GetInt(kE, value);
+}
+bool KCC_ParseNc::GetFCommand(int& value) const {
+  return GetInt(kF, value);
+}
+bool KCC_ParseNc::GetGprimCommand(int& value) const {
+  return GetInt(kGPrim, value);
+}
+bool KCC_ParseNc::GetGprimCommand(double& value) const {
+  return GetDouble(kGPrim, value);
+}
+bool KCC_ParseNc::GetGsecundCommand(double& value) const {
+  return GetDouble(kGSec, value);
+}
+bool KCC_ParseNc::GetICommand(double& value) const {
+  return GetDouble(kI, value);
+}
+bool KCC_ParseNc::GetJCommand(double& value) const {
+  return GetDouble(kJ, value);
+}
+bool KCC_ParseNc::GetKCommand(int& value) const {
+  return GetInt(kK, value);
+}
+bool KCC_ParseNc::GetLCommand(int& value) const {
+  return GetInt(kL, value);
+}
+bool KCC_ParseNc::GetMprimCommand(int& value) const {
+  return GetInt(kMPrim, value);
+}
+bool KCC_ParseNc::GetMsecCommand(int& value) const {
+  return GetInt(kMSec, value);
+}
+bool KCC_ParseNc::GetNCommand(int& value) const {
+  return GetInt(kN, value);
+}
+bool KCC_ParseNc::GetPCommand(int& value) const {
+  return GetInt(kP, value);
+}
+bool KCC_ParseNc::GetSCommand(int& value) const {
+  return GetInt(kS, value);
+}
+bool KCC_ParseNc::GetSCommand(double& value) const {
+  return GetDouble(kS, value);
+}
+bool KCC_ParseNc::GetRCommand(double& value) const {
+  return GetDouble(kR, value);
+}
+bool KCC_ParseNc::GetTCommand(int& value) const {
+  return GetInt(kT, value);
+}
+bool KCC_ParseNc::GetXCommand(double& value) const {
+  return GetDouble(kX, value);
+}
+bool KCC_ParseNc::GetYCommand(double& value) const {
+  return GetDouble(kY, value);
+}
+
+// The V getter tests the X slot's flag and hands out the V value; existing callers depend on that pairing.
+bool KCC_ParseNc::GetVCommand(double& value) const {
+  if (!m_slots[kX].present)
+    return false;
+  value = m_slots[kV].doubleValue;
+  return true;
+}
+
+bool KCC_ParseNc::Check_M30_Command(char* line) {
+  return Check_M30_Command(static_cast<const char*>(line));
+}
+
+bool KCC_ParseNc::Check_M30_Command(const char* line) {
+  static const char* const kCodes[1] = {"M30"};
+  bool found30 = false;
+  bool* flags[1] = {&found30};
+  return ScanEndCodes(line, kCodes, flags) >= 0;
+}
+
+bool KCC_ParseNc::Check_M30_M99_Command(char* line, bool& foundM30, bool& foundM99) {
+  return Check_M30_M99_Command(static_cast<const char*>(line), foundM30, foundM99);
+}
+
+bool KCC_ParseNc::Check_M30_M99_Command(const char* line, bool& foundM30, bool& foundM99) {
+  static const char* const kCodes[2] = {"M99", "M30"};
+  bool* flags[2] = {&foundM99, &foundM30};
+  return ScanEndCodes(line, kCodes, flags) >= 0;
+}
+
+bool KCC_ParseNc::GetProgramNumber(const KCString& line, int& number) {
+  KCString text(line);
+  text.TrimLeft();
+  if (text.GetLength() < 2)
+    return false;
+  if (text.GetAt(0) != ':' && text.GetAt(0) != 'O')
+    return false;
+  text.TrimLeft(':');
+  text.TrimLeft('O');
+  if (!IsDigit(text.GetAt(0)))
+    return false;
+  std::int32_t value = 0;
+  for (int i = 0; IsDigit(text.GetAt(i)); ++i)
+    value = WrapMulAdd(value, 10, text.GetAt(i) - '0');
+  number = value;
+  return true;
+}
+
+bool KCC_ParseNc::GetProgramNumberWithComment(const KCString& line, int& number, KCString& comment) {
+  if (!GetProgramNumber(line, number))
+    return false;
+  KCString text(line);
+  text.TrimLeft();
+  text.TrimLeft(':');
+  text.TrimLeft('O');
+  const std::uint64_t open = text.ReverseFind('(');
+  const std::uint64_t close = text.Find(')', 1);
+  comment += '(';
+  if (open != KCString::npos && close != KCString::npos && open < close) {
+    comment += text.Mid(static_cast<int>(open) + 1, static_cast<int>(close - open) - 1);
+  }
+  comment += ')';
+  return true;
+}
+
+bool KCC_ParseNc::GetNcParameter(const KCString& line, int& paramNumber, int& intValue, double& doubleValue,
+                                 KCString& valueText, bool resultOnError, bool& error) {
+  valueText = KCString();
+  error = false;
+  KCString text(line);
+  text.TrimLeft();
+  if (text.GetLength() < 6 || text.GetAt(0) != '#')
+    return false;
+
+  std::int32_t number = 0;
+  for (int i = 1; i <= 3 && IsDigit(text.GetAt(i)); ++i)
+    number = number * 10 + (text.GetAt(i) - '0');
+  paramNumber = number;
+
+  // The layout assumes a three-digit number: "#nnn" is dropped as a whole.
+  text = text.Mid(4);
+  text.TrimLeft();
+  if (text.IsEmpty() || text.GetAt(0) != '=')
+    return false;
+  text.TrimLeft('=');
+  text.TrimLeft();
+  if (text.IsEmpty())
+    return false;
+
+  const std::uint64_t bracket = text.Find('(');
+  valueText = bracket == KCString::npos ? text : text.Left(static_cast<int>(bracket));
+  return ScanParameterValue(text.c_str(), text.size(), intValue, doubleValue, resultOnError, error);
+}
+
+bool KCC_ParseNc::GetNcParameter(const KCString& line, int& paramNumber, int& intValue, double& doubleValue) {
+  KCString valueText;
+  bool error = false;
+  return GetNcParameter(line, paramNumber, intValue, doubleValue, valueText, false, error);
+}
+
+bool KCC_ParseNc::GetNcTextParameter(const KCString& line, KCString& name, int& intValue, double& doubleValue,
+                                     KCString& valueText, bool resultOnError, bool& error) {
+  valueText = KCString();
+  name = KCString();
+  error = false;
+  KCString text(line);
+  text.TrimLeft();
+  if (text.GetLength() < 6 || text.GetAt(0) == ';')
+    return false;
+
+  const std::uint64_t equals = text.Find('=');
+  if (equals == KCString::npos)
+    return false;
+  name = text.Left(static_cast<int>(equals));
+  name.Trim();
+
+  text = text.Mid(static_cast<int>(equals));
+  text.TrimLeft();
+  if (text.IsEmpty() || text.GetAt(0) != '=')
+    return false;
+  text.TrimLeft('=');
+  text.TrimLeft();
+  if (text.IsEmpty())
+    return false;
+
+  const std::uint64_t semicolon = text.Find(';');
+  valueText = semicolon == KCString::npos ? text : text.Left(static_cast<int>(semicolon));
+  return ScanParameterValue(text.c_str(), text.size(), intValue, doubleValue, resultOnError, error);
+}
+
+bool KCC_ParseNc::GetNcTextParameter(const KCString& line, KCString& name, int& intValue,
+                                     double& doubleValue) {
+  KCString valueText;
+  bool error = false;
+  return GetNcTextParameter(line, name, intValue, doubleValue, valueText, false, error);
+}

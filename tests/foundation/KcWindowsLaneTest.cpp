@@ -1,0 +1,202 @@
+// The platform layer as the test program sees it: the running program's path, the version text of program
+// files, and the replaceable message-box handler. On Windows these go through GetModuleFileNameA, the files'
+// version resources and MessageBoxA; elsewhere the tests check the portable substitutes that take their
+// place.
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <string>
+
+#include "ncappkit/foundation/KCC_MessageBox.h"
+#include "ncappkit/foundation/KCFileMan.h"
+#include "ncappkit/foundation/KCPlatform.h"
+#include "ncappkit/version.h"
+#include "support/TempDir.h"
+
+#if defined(_WIN32)
+#include <windows.h>
+#endif
+
+namespace {
+
+// The test program's own file name without directory and extension.
+constexpr const char* kTestProgramName = "ncappkit_foundation_tests";
+
+// What the message-box handler below last received.
+struct SeenBox {
+  HWND owner = nullptr;
+  std::string text;
+  std::string caption;
+  unsigned int style = 0;
+  int calls = 0;
+};
+SeenBox g_seen;
+
+unsigned int AnswerRetry(HWND owner, const char* text, const char* caption, unsigned int style) {
+  g_seen.owner = owner;
+  g_seen.text = text;
+  g_seen.caption = caption;
+  g_seen.style = style;
+  ++g_seen.calls;
+  return 4;  // Retry
+}
+
+unsigned int AnswerNo(HWND, const char*, const char*, unsigned int) {
+  return 7;  // No
+}
+
+// Installs a handler for one test and puts the previous one back afterwards.
+class ScopedHandler {
+ public:
+  explicit ScopedHandler(KCC_MessageBoxHandler handler) : m_previous(KCC_SetMessageBoxHandler(handler)) {}
+  ~ScopedHandler() { KCC_SetMessageBoxHandler(m_previous); }
+  ScopedHandler(const ScopedHandler&) = delete;
+  ScopedHandler& operator=(const ScopedHandler&) = delete;
+
+ private:
+  KCC_MessageBoxHandler m_previous;
+};
+
+std::string LibraryVersion(bool withBuild) {
+  return withBuild ? std::string(NCAPPKIT_VERSION_STRING) + ".0" : std::string(NCAPPKIT_VERSION_STRING);
+}
+
+}  // namespace
+
+TEST(KcWindowsLane, ExecutablePathNamesTheRunningTestProgram) {
+  const KCString path = KCC_GetExecutablePath();
+
+  EXPECT_EQ(KCFileMan::ExtractFileNameNoExt(path).str(), kTestProgramName);
+  EXPECT_TRUE(KCFileMan::FileExists(path)) << path.str();
+}
+
+TEST(KcWindowsLane, ExecutablePathIsAbsolute) {
+  const std::string path = KCC_GetExecutablePath().str();
+
+#if defined(_WIN32)
+  // "C:\dir\prog.exe" or "\\server\share\prog.exe"
+  const bool drive = path.size() > 3 && path[1] == ':' && path[2] == '\\';
+  const bool unc = path.rfind("\\\\", 0) == 0;
+  EXPECT_TRUE(drive || unc) << path;
+  EXPECT_EQ(KCFileMan::ExtractFileExt(path).UpperCase().str(), ".EXE");
+#else
+  ASSERT_FALSE(path.empty());
+  EXPECT_EQ(path.front(), '/');
+#endif
+}
+
+TEST(KcWindowsLane, VersionTextOfTheRunningProgramComesBack) {
+  const KCString path = KCC_GetExecutablePath();
+
+  EXPECT_EQ(KCFileMan::GetFullFileVersion(path, true).str(), LibraryVersion(true));
+  EXPECT_EQ(KCFileMan::GetFullFileVersion(path, false).str(), LibraryVersion(false));
+}
+
+TEST(KcWindowsLane, VersionTextOfAMissingFileIsEmpty) {
+  TempDir dir;
+
+  EXPECT_EQ(KCFileMan::GetFullFileVersion(dir.Path("absent.exe"), true).str(), "");
+}
+
+#if defined(_WIN32)
+
+TEST(KcWindowsLane, ExecutablePathMatchesTheModuleFileName) {
+  char buffer[MAX_PATH] = {};
+  const DWORD length = GetModuleFileNameA(nullptr, buffer, MAX_PATH);
+  ASSERT_GT(length, 0u);
+
+  EXPECT_EQ(KCC_GetExecutablePath().str(), std::string(buffer, length));
+}
+
+TEST(KcWindowsLane, FileWithoutVersionResourceGivesEmptyVersionText) {
+  TempDir dir;
+  const std::string plain = dir.WriteFile("notes.txt", "no resources in here\r\n");
+
+  EXPECT_EQ(KCFileMan::GetFullFileVersion(plain, true).str(), "");
+}
+
+TEST(KcWindowsLane, VersionTextOfTheLibraryDllComesBack) {
+  // The module that holds KCFileMan is the library's DLL.
+  HMODULE library = nullptr;
+  ASSERT_TRUE(GetModuleHandleExA(
+      GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+      reinterpret_cast<LPCSTR>(&KCC_GetExecutablePath), &library));
+  char buffer[MAX_PATH] = {};
+  const DWORD length = GetModuleFileNameA(library, buffer, MAX_PATH);
+  ASSERT_GT(length, 0u);
+  const KCString dllPath(std::string(buffer, length));
+
+  EXPECT_EQ(KCFileMan::ExtractFileExt(dllPath).UpperCase().str(), ".DLL");
+  EXPECT_EQ(KCFileMan::GetFullFileVersion(dllPath, true).str(), LibraryVersion(true));
+}
+
+#ifdef NCKIT_EXE
+TEST(KcWindowsLane, VersionTextOfNckitComesBack) {
+  EXPECT_EQ(KCFileMan::GetFullFileVersion(NCKIT_EXE, true).str(), LibraryVersion(true));
+}
+#endif
+
+#else  // the portable substitutes
+
+TEST(KcWindowsLane, AnyExistingFileCarriesTheLibraryVersionOffWindows) {
+  TempDir dir;
+  const std::string plain = dir.WriteFile("notes.txt", "no resources in here\n");
+
+  EXPECT_EQ(KCFileMan::GetFullFileVersion(plain, true).str(), LibraryVersion(true));
+  EXPECT_EQ(KCFileMan::GetFullFileVersion(plain, false).str(), LibraryVersion(false));
+}
+
+#endif
+
+TEST(KcWindowsLane, InstalledHandlerReceivesTheBoxInsteadOfTheSystem) {
+  ScopedHandler scoped(&AnswerRetry);
+  g_seen = SeenBox();
+  HWND owner = reinterpret_cast<HWND>(static_cast<std::uintptr_t>(0x1234));
+  KCC_MessageBox box(owner, "Caption", "Body");
+  box.SetTypeRetryCancel();
+  box.SetIconStop();
+  box.SetDefaultButton(2);
+
+  box.DoModal();
+
+  EXPECT_EQ(g_seen.calls, 1);
+  EXPECT_EQ(g_seen.owner, owner);
+  EXPECT_EQ(g_seen.text, "Body");
+  EXPECT_EQ(g_seen.caption, "Caption");
+  EXPECT_EQ(g_seen.style, 0x100u | 0x10u | 5u);
+  EXPECT_TRUE(box.IsRetry());
+}
+
+TEST(KcWindowsLane, ReplacingTheHandlerReturnsTheOneItReplaces) {
+  const KCC_MessageBoxHandler systemHandler = KCC_SetMessageBoxHandler(&AnswerNo);
+  const KCC_MessageBoxHandler replaced = KCC_SetMessageBoxHandler(&AnswerRetry);
+  const KCC_MessageBoxHandler restoredFrom = KCC_SetMessageBoxHandler(systemHandler);
+
+  EXPECT_NE(systemHandler, nullptr);
+  EXPECT_EQ(replaced, &AnswerNo);
+  EXPECT_EQ(restoredFrom, &AnswerRetry);
+}
+
+TEST(KcWindowsLane, NullHandlerRestoresTheSystemBox) {
+  const KCC_MessageBoxHandler systemHandler = KCC_SetMessageBoxHandler(&AnswerNo);
+  KCC_SetMessageBoxHandler(nullptr);
+  const KCC_MessageBoxHandler afterReset = KCC_SetMessageBoxHandler(systemHandler);
+
+  EXPECT_EQ(afterReset, systemHandler);
+}
+
+TEST(KcWindowsLane, ReportShowsTheTextThroughTheInstalledHandler) {
+  ScopedHandler scoped(&AnswerRetry);
+  g_seen = SeenBox();
+  KCC_MessageBox box;
+  box.SetHeader("Load");
+  box.AddMessage("file not found");
+
+  box.DoReport();
+
+  EXPECT_EQ(g_seen.owner, nullptr);
+  EXPECT_EQ(g_seen.text, "\nfile not found");
+  EXPECT_EQ(g_seen.caption, "Load");
+  EXPECT_EQ(g_seen.style, 0x30u);  // OK, exclamation, first button
+  EXPECT_EQ(box.GetReturn(), 4u);
+}

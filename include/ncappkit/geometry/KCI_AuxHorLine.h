@@ -1,0 +1,23 @@
+// KCI_AuxHorLine: abstract access to an infinite horizontal construction line, given by its y position.
+//
+// The auxiliary-shape computations (CMathAuxShapes) read only GetPos. The library's own implementation is
+// CMathAuxShapes::CAuxHorLine.
+//
+//   CMathAuxShapes::CAuxHorLine line(2.5);   // the line y = 2.5
+//   double pos = line.GetPos();
+#pragma once
+
+#include "ncappkit/export.h"
+
+class NCAPPKIT_EXPORT KCI_AuxHorLine {
+ public:
+  KCI_AuxHorLine() = default;
+  KCI_AuxHorLine(const KCI_AuxHorLine&) = default;
+  KCI_AuxHorLine& operator=(const KCI_AuxHorLine&) = default;
+  virtual ~KCI_AuxHorLine();
+
+  /// The y position of the line.
+  virtual double GetPos() const = 0;
+  /// Set the y position of the line.
+  virtual void SetPos(double pos) = 0;
+};

@@ -1,0 +1,23 @@
+// KCI_AuxVerLine: abstract access to an infinite vertical construction line, given by its x position.
+//
+// The auxiliary-shape computations (CMathAuxShapes) read only GetPos. The library's own implementation is
+// CMathAuxShapes::CAuxVerLine.
+//
+//   CMathAuxShapes::CAuxVerLine line(2.5);   // the line x = 2.5
+//   double pos = line.GetPos();
+#pragma once
+
+#include "ncappkit/export.h"
+
+class NCAPPKIT_EXPORT KCI_AuxVerLine {
+ public:
+  KCI_AuxVerLine() = default;
+  KCI_AuxVerLine(const KCI_AuxVerLine&) = default;
+  KCI_AuxVerLine& operator=(const KCI_AuxVerLine&) = default;
+  virtual ~KCI_AuxVerLine();
+
+  /// The x position of the line.
+  virtual double GetPos() const = 0;
+  /// Set the x position of the line.
+  virtual void SetPos(double pos) = 0;
+};

@@ -1,0 +1,3 @@
+#include "ncappkit/geometry/KCI_AuxCircle.h"
+
+KCI_AuxCircle::~KCI_AuxCircle() = default;

@@ -1,0 +1,3 @@
+#include "ncappkit/geometry/KCI_AuxHorLine.h"
+
+KCI_AuxHorLine::~KCI_AuxHorLine() = default;

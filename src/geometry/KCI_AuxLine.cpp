@@ -1,0 +1,3 @@
+#include "ncappkit/geometry/KCI_AuxLine.h"
+
+KCI_AuxLine::~KCI_AuxLine() = default;

@@ -1,0 +1,3 @@
+#include "ncappkit/geometry/KCI_AuxVerLine.h"
+
+KCI_AuxVerLine::~KCI_AuxVerLine() = default;

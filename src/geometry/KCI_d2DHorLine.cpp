@@ -1,0 +1,3 @@
+#include "ncappkit/geometry/KCI_d2DHorLine.h"
+
+KCI_d2DHorLine::~KCI_d2DHorLine() = default;

@@ -1,0 +1,3 @@
+#include "ncappkit/geometry/KCI_d2DVerLine.h"
+
+KCI_d2DVerLine::~KCI_d2DVerLine() = default;

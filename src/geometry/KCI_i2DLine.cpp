@@ -1,0 +1,3 @@
+#include "ncappkit/geometry/KCI_i2DLine.h"
+
+KCI_i2DLine::~KCI_i2DLine() = default;

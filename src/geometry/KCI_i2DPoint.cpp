@@ -1,0 +1,3 @@
+#include "ncappkit/geometry/KCI_i2DPoint.h"
+
+KCI_i2DPoint::~KCI_i2DPoint() = default;

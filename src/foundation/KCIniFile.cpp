@@ -1,0 +1,316 @@
+// KCIniFile.
+//
+// File syntax and rewrite rules:
+// - A line "[name]" (blanks around the name and text after ']' allowed) starts a section; "key = value"
+//   lines belong to the section above them, lines before the first section to the section "". Section and
+//   key names compare without regard to ASCII case; names and values are trimmed of blanks. A ';' or '#'
+//   inside a value is part of the value (there are no end-of-line comments).
+// - Lines starting with ';' or '#', blank lines, a key line without '=' or with nothing before it, and any
+//   other line are kept as they are.
+// - A key that appears twice, or a section whose name appears twice: reads take the first match in file
+//   order (searching all occurrences of the section); a write changes that first match. A key that is not
+//   there yet goes after the last key of the first occurrence of its section (right after the header when it
+//   has no keys); a missing section is appended at the end of the file, after a blank line.
+// - Updating a key keeps its line up to and including '=' and the blanks after '=' as they were.
+// - The file's line end (CRLF when its first line ends with CRLF, otherwise LF) is used for every line of
+//   the rewrite, and the last line gets one too. A new file gets CRLF on Windows and LF elsewhere. A UTF-8
+//   byte-order mark at the start is kept.
+// - Every call reads the file afresh, so changes by other programs are seen. A file that exists but cannot
+//   be read reads as empty and is never overwritten: writes to it fail.
+// - Writes that could not be read back as written fail without touching the file: a section name with ']'
+//   or a line break, an empty key, a key with '=' or a line break or starting with '[', ';' or '#', and a
+//   value with a line break.
+#include "ncappkit/foundation/KCIniFile.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <system_error>
+#include <vector>
+
+#include "foundation/KCReplaceFile.h"
+
+namespace {
+
+constexpr const char* kBom = "\xEF\xBB\xBF";
+
+#if defined(_WIN32)
+constexpr const char* kNewFileLineEnd = "\r\n";
+#else
+constexpr const char* kNewFileLineEnd = "\n";
+#endif
+
+struct IniLine {
+  enum class Kind { Other, Section, Key };
+  Kind kind = Kind::Other;
+  std::string text;  // the line as it stands in the file, without line end
+  KCString name;     // trimmed section name or key
+  KCString value;    // trimmed value of a key line
+};
+
+IniLine ParseLine(const std::string& text) {
+  IniLine line;
+  line.text = text;
+  KCString trimmed(text);
+  trimmed.Trim();
+  const char first = trimmed.GetAt(0);
+  if (trimmed.IsEmpty() || first == ';' || first == '#')
+    return line;
+  if (first == '[') {
+    const std::uint64_t close = trimmed.Find(']');
+    if (close != KCString::npos) {
+      line.kind = IniLine::Kind::Section;
+      line.name = trimmed.Mid(1, static_cast<int>(close) - 1);
+      line.name.Trim();
+    }
+    return line;
+  }
+  const std::uint64_t equals = trimmed.Find('=');
+  if (equals == KCString::npos || equals == 0)
+    return line;
+  line.kind = IniLine::Kind::Key;
+  line.name = trimmed.Left(static_cast<int>(equals));
+  line.name.Trim();
+  line.value = trimmed.Mid(static_cast<int>(equals) + 1);
+  line.value.Trim();
+  return line;
+}
+
+bool HasLineBreak(const KCString& text) {
+  return text.Find('\n') != KCString::npos || text.Find('\r') != KCString::npos;
+}
+
+// The whole file as lines, with what is needed to write it back the same way.
+class IniText {
+ public:
+  enum class State { Missing, Loaded, Unreadable };
+
+  explicit IniText(const KCString& fileName) : m_fileName(fileName.str()) { Load(); }
+
+  State GetState() const noexcept { return m_state; }
+
+  // Index of the first key line `key` in any occurrence of `section`, or -1.
+  int FindKey(const KCString& section, const KCString& key) const {
+    bool inSection = KCString().EqualsNoCase(section);  // lines before the first header belong to ""
+    for (std::size_t i = 0; i < m_lines.size(); ++i) {
+      const IniLine& line = m_lines[i];
+      if (line.kind == IniLine::Kind::Section) {
+        inSection = line.name.EqualsNoCase(section);
+      } else if (inSection && line.kind == IniLine::Kind::Key && line.name.EqualsNoCase(key)) {
+        return static_cast<int>(i);
+      }
+    }
+    return -1;
+  }
+
+  const IniLine& Line(int index) const { return m_lines[static_cast<std::size_t>(index)]; }
+
+  // Set `key` in `section` to `value` (see the rules at the top of the file).
+  void Set(const KCString& section, const KCString& key, const KCString& value) {
+    const int existing = FindKey(section, key);
+    if (existing >= 0) {
+      IniLine& line = m_lines[static_cast<std::size_t>(existing)];
+      std::size_t keep = line.text.find('=') + 1;
+      while (keep < line.text.size() && (line.text[keep] == ' ' || line.text[keep] == '\t'))
+        ++keep;
+      line = ParseLine(line.text.substr(0, keep) + value.str());
+      return;
+    }
+    const std::string text = key.str() + "=" + value.str();
+    const int at = InsertionPoint(section);
+    if (at >= 0) {
+      m_lines.insert(m_lines.begin() + at, ParseLine(text));
+      return;
+    }
+    if (!m_lines.empty() && !KCString(m_lines.back().text).Trim().IsEmpty())
+      m_lines.push_back(ParseLine(""));
+    m_lines.push_back(ParseLine("[" + section.str() + "]"));
+    m_lines.push_back(ParseLine(text));
+  }
+
+  // Remove every key line `key` of `section`; true when one was removed.
+  bool Remove(const KCString& section, const KCString& key) {
+    bool removed = false;
+    for (int i = FindKey(section, key); i >= 0; i = FindKey(section, key)) {
+      m_lines.erase(m_lines.begin() + i);
+      removed = true;
+    }
+    return removed;
+  }
+
+  bool Save() const {
+    if (m_state == State::Unreadable)
+      return false;
+    std::string content = m_bom ? kBom : "";
+    for (const IniLine& line : m_lines) {
+      content += line.text;
+      content += m_lineEnd;
+    }
+    return ncappkit_detail::ReplaceFileContents(m_fileName, content);
+  }
+
+ private:
+  void Load() {
+    std::error_code error;
+    const std::filesystem::path path(m_fileName);
+    if (!std::filesystem::exists(path, error)) {
+      m_state = State::Missing;
+      return;
+    }
+    std::ifstream in(path, std::ios::binary);
+    if (!in || !std::filesystem::is_regular_file(path, error)) {
+      m_state = State::Unreadable;
+      return;
+    }
+    std::string content((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    if (in.bad()) {
+      m_state = State::Unreadable;
+      return;
+    }
+    m_state = State::Loaded;
+    if (content.compare(0, 3, kBom) == 0) {
+      m_bom = true;
+      content.erase(0, 3);
+    }
+    const std::size_t firstBreak = content.find('\n');
+    if (firstBreak != std::string::npos)
+      m_lineEnd = (firstBreak > 0 && content[firstBreak - 1] == '\r') ? "\r\n" : "\n";
+    std::size_t start = 0;
+    while (start < content.size()) {
+      std::size_t end = content.find('\n', start);
+      if (end == std::string::npos)
+        end = content.size();
+      std::size_t stop = end;
+      if (stop > start && content[stop - 1] == '\r')
+        --stop;
+      m_lines.push_back(ParseLine(content.substr(start, stop - start)));
+      start = end + 1;
+    }
+  }
+
+  // Where a new key of `section` goes, or -1 when the section is not in the file.
+  int InsertionPoint(const KCString& section) const {
+    int header = -1;
+    int lastKey = -1;
+    if (KCString().EqualsNoCase(section)) {
+      // The nameless section: the lines before the first header.
+      for (std::size_t i = 0; i < m_lines.size() && m_lines[i].kind != IniLine::Kind::Section; ++i) {
+        if (m_lines[i].kind == IniLine::Kind::Key)
+          lastKey = static_cast<int>(i);
+      }
+      return lastKey >= 0 ? lastKey + 1 : 0;
+    }
+    for (std::size_t i = 0; i < m_lines.size(); ++i) {
+      const IniLine& line = m_lines[i];
+      if (line.kind == IniLine::Kind::Section) {
+        if (header >= 0)
+          break;  // end of the first occurrence
+        if (line.name.EqualsNoCase(section))
+          header = static_cast<int>(i);
+      } else if (header >= 0 && line.kind == IniLine::Kind::Key) {
+        lastKey = static_cast<int>(i);
+      }
+    }
+    if (header < 0)
+      return -1;
+    return (lastKey >= 0 ? lastKey : header) + 1;
+  }
+
+  std::string m_fileName;
+  State m_state = State::Missing;
+  std::vector<IniLine> m_lines;
+  std::string m_lineEnd = kNewFileLineEnd;
+  bool m_bom = false;
+};
+
+bool IsWritable(const KCString& section, const KCString& key, const KCString& value) {
+  KCString trimmedKey(key);
+  trimmedKey.Trim();
+  const char first = trimmedKey.GetAt(0);
+  if (trimmedKey.IsEmpty() || first == '[' || first == ';' || first == '#')
+    return false;
+  if (key.Find('=') != KCString::npos || HasLineBreak(key))
+    return false;
+  if (section.Find(']') != KCString::npos || HasLineBreak(section))
+    return false;
+  return !HasLineBreak(value);
+}
+
+}  // namespace
+
+KCIniFile::KCIniFile(const KCString& fileName) : m_fileName(fileName) {}
+
+KCIniFile::~KCIniFile() = default;
+
+KCString KCIniFile::ReadString(const KCString& section, const KCString& key, const KCString& defaultValue,
+                               bool create) {
+  const IniText ini(m_fileName);
+  const int index = ini.FindKey(section, key);
+  if (index >= 0)
+    return ini.Line(index).value;
+  if (create)
+    WriteString(section, key, defaultValue);
+  return defaultValue;
+}
+
+int KCIniFile::ReadInteger(const KCString& section, const KCString& key, int defaultValue, bool create) {
+  const IniText ini(m_fileName);
+  const int index = ini.FindKey(section, key);
+  if (index >= 0)
+    return ini.Line(index).value.AsInt(defaultValue, false);
+  if (create)
+    WriteInteger(section, key, defaultValue);
+  return defaultValue;
+}
+
+double KCIniFile::ReadDouble(const KCString& section, const KCString& key, double defaultValue, bool create,
+                             int digits) {
+  const IniText ini(m_fileName);
+  const int index = ini.FindKey(section, key);
+  if (index >= 0)
+    return ini.Line(index).value.AsDouble(defaultValue);
+  if (create)
+    WriteDouble(section, key, defaultValue, digits);
+  return defaultValue;
+}
+
+bool KCIniFile::WriteString(const KCString& section, const KCString& key, const KCString& value) {
+  KCString trimmedValue(value);
+  trimmedValue.Trim();
+  if (!IsWritable(section, key, trimmedValue))
+    return false;
+  KCString trimmedSection(section);
+  trimmedSection.Trim();
+  KCString trimmedKey(key);
+  trimmedKey.Trim();
+  IniText ini(m_fileName);
+  if (ini.GetState() == IniText::State::Unreadable)
+    return false;
+  ini.Set(trimmedSection, trimmedKey, trimmedValue);
+  return ini.Save();
+}
+
+bool KCIniFile::WriteInteger(const KCString& section, const KCString& key, int value) {
+  return WriteString(section, key, KCString(value, false));
+}
+
+bool KCIniFile::WriteBool(const KCString& section, const KCString& key, bool value) {
+  return WriteString(section, key, value ? "1" : "0");
+}
+
+bool KCIniFile::WriteDouble(const KCString& section, const KCString& key, double value, int digits) {
+  return WriteString(section, key, KCString(value, digits, false));
+}
+
+bool KCIniFile::HasKey(const KCString& section, const KCString& key) {
+  return IniText(m_fileName).FindKey(section, key) >= 0;
+}
+
+bool KCIniFile::DeleteKey(const KCString& section, const KCString& key) {
+  IniText ini(m_fileName);
+  if (!ini.Remove(section, key))
+    return true;
+  return ini.Save();
+}

@@ -1,0 +1,399 @@
+// Splitting NC text into main programs and sub-programs, loading files and saving them.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "ncappkit/nc/KCC_NcFile.h"
+#include "support/TempDir.h"
+
+namespace {
+
+KCStringList Lines(std::initializer_list<const char*> lines) {
+  KCStringList list;
+  for (const char* l : lines)
+    list.push_back(l);
+  return list;
+}
+
+std::vector<std::string> LinesOf(const KCC_NcFileProgram& program) {
+  std::vector<std::string> out;
+  for (const KCString& l : program.GetStringList())
+    out.push_back(l.str());
+  return out;
+}
+
+// Opens the protected line tests for the tests.
+class NcFileProbe : public KCC_NcFile {
+ public:
+  using KCC_NcFile::Check_FirstBlock_Command;
+  using KCC_NcFile::Check_M30_M99_RET_Command;
+  using KCC_NcFile::ParseProgramNumberLine;
+};
+
+bool Ends(const char* line) {
+  NcFileProbe probe;
+  bool m30 = false, m99 = false, ret = false;
+  return probe.Check_M30_M99_RET_Command(line, m30, m99, ret);
+}
+
+}  // namespace
+
+TEST(KccNcFile, SingleMainProgramWithoutKeepingTheUnfinishedRest) {
+  KCC_NcFile file;
+  KCC_NcFileProgram* result =
+      file.LoadFromStringList(Lines({"%", "O0001", "G00 X0", "M30", "%"}), false, false);
+  ASSERT_NE(result, nullptr);
+  EXPECT_TRUE(file.HasNoError());
+  ASSERT_EQ(file.GetNumberOfMainPrograms(), 1);
+  EXPECT_TRUE(file.IsSubProgramsEmpty());
+  KCC_NcFileProgram* main = file.GetMainProgList().GetProgram(0);
+  EXPECT_EQ(result, main);
+  EXPECT_EQ(main->GetProgramNumber(), 1);
+  EXPECT_EQ(LinesOf(*main), (std::vector<std::string>{"O0001", "G00 X0", "M30"}));
+}
+
+TEST(KccNcFile, KeepUnfinishedStoresTheEmptyRestAsSubProgram) {
+  KCC_NcFile file;
+  KCC_NcFileProgram* result =
+      file.LoadFromStringList(Lines({"%", "O0001", "G00 X0", "M30", "%"}), false, true);
+  EXPECT_TRUE(file.HasNoError());
+  ASSERT_EQ(file.GetNumberOfMainPrograms(), 1);
+  ASSERT_EQ(file.GetNumberOfSubPrograms(), 1);
+  KCC_NcFileProgram* rest = file.GetSubProgList().GetProgram(0);
+  EXPECT_EQ(result, rest);
+  EXPECT_TRUE(rest->GetStringList().empty());
+  EXPECT_EQ(rest->GetProgramNumber(), -1);
+}
+
+TEST(KccNcFile, SubProgramIsFiledAtTheNextNumberLine) {
+  KCC_NcFile file;
+  KCC_NcFileProgram* result = file.LoadFromStringList(
+      Lines({"O8010 (SUB)", "G01 X1", "M99", "O0100", "M98 P8010", "M30"}), false, false);
+  ASSERT_EQ(file.GetNumberOfSubPrograms(), 1);
+  ASSERT_EQ(file.GetNumberOfMainPrograms(), 1);
+  KCC_NcFileProgram* sub = file.GetSubProgList().GetProgram(0);
+  EXPECT_EQ(sub->GetProgramNumber(), 8010);
+  EXPECT_EQ(sub->GetProgramRef(), "SUB");
+  EXPECT_EQ(LinesOf(*sub), (std::vector<std::string>{"O8010 (SUB)", "G01 X1", "M99"}));
+  EXPECT_EQ(result, file.GetMainProgList().GetProgram(0));
+  EXPECT_EQ(result->GetProgramNumber(), 100);
+}
+
+TEST(KccNcFile, LinesAfterASubProgramEndStayWithIt) {
+  KCC_NcFile file;
+  file.LoadFromStringList(Lines({"O8010", "M99", "(TRAILER)", "O0100", "M30"}), false, false);
+  ASSERT_EQ(file.GetNumberOfSubPrograms(), 1);
+  EXPECT_EQ(LinesOf(*file.GetSubProgList().GetProgram(0)),
+            (std::vector<std::string>{"O8010", "M99", "(TRAILER)"}));
+}
+
+TEST(KccNcFile, PendingSubProgramAtTheEndIsStoredAndIsTheResult) {
+  KCC_NcFile file;
+  KCC_NcFileProgram* result = file.LoadFromStringList(Lines({"O1", "M30", "O2", "M99"}), false, false);
+  ASSERT_EQ(file.GetNumberOfSubPrograms(), 1);
+  EXPECT_EQ(result, file.GetSubProgList().GetProgram(0));
+  EXPECT_EQ(result->GetProgramNumber(), 2);
+}
+
+TEST(KccNcFile, FanucFirstBlockMakesAnM99ProgramAMainProgram) {
+  KCC_NcFile file;
+  file.LoadFromStringList(Lines({"O0001", "N10 M98 P8010", "M99"}), true, false);
+  EXPECT_TRUE(file.HasNoError());
+  EXPECT_EQ(file.GetNumberOfMainPrograms(), 1);
+  EXPECT_TRUE(file.IsSubProgramsEmpty());
+  EXPECT_TRUE(file.IsFanucNcFileStructure());
+}
+
+TEST(KccNcFile, SiemensFirstBlockMakesARetProgramAMainProgram) {
+  KCC_NcFile file;
+  file.LoadFromStringList(Lines({"N50 FIRST_BLOCK", "N60 G0 X0", "RET"}), true, false);
+  EXPECT_TRUE(file.HasNoError());
+  EXPECT_EQ(file.GetNumberOfMainPrograms(), 1);
+  EXPECT_TRUE(file.IsSubProgramsEmpty());
+  EXPECT_TRUE(file.IsSiemensNcFileStructure());
+}
+
+TEST(KccNcFile, WithoutFirstBlockCheckAnM99ProgramStaysASubProgram) {
+  KCC_NcFile file;
+  file.LoadFromStringList(Lines({"O0001", "N10 M98 P8010", "M99"}), false, false);
+  EXPECT_TRUE(file.IsMainProgramsEmpty());
+  EXPECT_EQ(file.GetNumberOfSubPrograms(), 1);
+}
+
+TEST(KccNcFile, M300AndM991DoNotEndAProgram) {
+  KCC_NcFile file;
+  file.LoadFromStringList(Lines({"O1", "M300", "M991", "M30"}), false, false);
+  ASSERT_EQ(file.GetNumberOfMainPrograms(), 1);
+  EXPECT_EQ(file.GetMainProgList().GetProgram(0)->GetStringList().size(), 4u);
+  EXPECT_FALSE(Ends("M300"));
+  EXPECT_FALSE(Ends("M991"));
+}
+
+TEST(KccNcFile, RetCountsOnlyAtTheStartOfTheLine) {
+  EXPECT_FALSE(Ends("N10 RET"));
+  EXPECT_TRUE(Ends("RET"));
+  EXPECT_TRUE(Ends("RET ; back"));
+}
+
+TEST(KccNcFile, EndTestTellsWhichCodeEndedTheProgram) {
+  NcFileProbe probe;
+  bool m30 = false, m99 = false, ret = false;
+  EXPECT_TRUE(probe.Check_M30_M99_RET_Command("N20 M99 (BACK)", m30, m99, ret));
+  EXPECT_TRUE(m99);
+  EXPECT_FALSE(m30);
+  EXPECT_FALSE(ret);
+}
+
+TEST(KccNcFile, EndCodeInsideBracketsDoesNotCount) {
+  EXPECT_FALSE(Ends("(M30 M99)"));
+  EXPECT_FALSE(Ends("M3"));
+}
+
+TEST(KccNcFile, FirstBlockNeedsM98AndP8010OutsideBrackets) {
+  NcFileProbe probe;
+  EXPECT_TRUE(probe.Check_FirstBlock_Command("P8010 M98 X1"));
+  EXPECT_FALSE(probe.Check_FirstBlock_Command("M98 (P8010) X1"));
+  EXPECT_FALSE(probe.Check_FirstBlock_Command("M98 P80"));
+}
+
+TEST(KccNcFile, FirstBlockScanStopsFiveCharactersBeforeTheEnd) {
+  NcFileProbe probe;
+  EXPECT_TRUE(probe.Check_FirstBlock_Command("M98P8010"));
+  // M98 in the last four characters is not looked at.
+  EXPECT_FALSE(probe.Check_FirstBlock_Command("P8010 X M98"));
+}
+
+TEST(KccNcFile, SiemensFirstBlockWithoutBlank) {
+  NcFileProbe probe;
+  EXPECT_TRUE(probe.Check_FirstBlock_Command("N50FIRST_BLOCK"));
+  EXPECT_TRUE(probe.IsSiemensNcFileStructure());
+  EXPECT_FALSE(probe.Check_FirstBlock_Command("N55 FIRST_BLOCK"));
+}
+
+TEST(KccNcFile, ProgramNumberLineGivesNumberAndRef) {
+  NcFileProbe probe;
+  int number = 0;
+  KCString ref("keep");
+  EXPECT_TRUE(probe.ParseProgramNumberLine("O 1234 (BRACKET)", number, ref));
+  EXPECT_EQ(number, 1234);
+  EXPECT_EQ(ref, "BRACKET");
+}
+
+TEST(KccNcFile, ProgramNumberLineWithoutBracketsKeepsTheRef) {
+  NcFileProbe probe;
+  int number = 0;
+  KCString ref("keep");
+  EXPECT_TRUE(probe.ParseProgramNumberLine(":77", number, ref));
+  EXPECT_EQ(number, 77);
+  EXPECT_EQ(ref, "keep");
+}
+
+TEST(KccNcFile, ColonOIsNoProgramNumberLineForTheLoader) {
+  NcFileProbe probe;
+  int number = 0;
+  KCString ref;
+  EXPECT_FALSE(probe.ParseProgramNumberLine(":O12", number, ref));
+  EXPECT_FALSE(probe.ParseProgramNumberLine("O", number, ref));
+}
+
+TEST(KccNcFile, NumberLineInsideAnOpenProgramRenamesIt) {
+  KCC_NcFile file;
+  file.LoadFromStringList(Lines({"O1 (A)", "G0 X0", "O2 (B)", "M30"}), false, false);
+  ASSERT_EQ(file.GetNumberOfMainPrograms(), 1);
+  KCC_NcFileProgram* p = file.GetMainProgList().GetProgram(0);
+  EXPECT_EQ(p->GetProgramNumber(), 2);
+  EXPECT_EQ(p->GetProgramRef(), "B");
+  EXPECT_EQ(p->GetStringList().size(), 4u);
+}
+
+TEST(KccNcFile, LeadingBlanksAndLineEndsAreRemovedFromLines) {
+  KCC_NcFile file;
+  file.LoadFromStringList(Lines({"\r\n  O5", " \tM30"}), false, false);
+  ASSERT_EQ(file.GetNumberOfMainPrograms(), 1);
+  EXPECT_EQ(LinesOf(*file.GetMainProgList().GetProgram(0)), (std::vector<std::string>{"O5", "M30"}));
+}
+
+TEST(KccNcFile, EmptyTextWithKeepUnfinishedGivesOneEmptyProgram) {
+  KCC_NcFile file;
+  KCC_NcFileProgram* result = file.LoadFromStringList(KCStringList(), false, true);
+  ASSERT_NE(result, nullptr);
+  EXPECT_TRUE(file.HasNoError());
+  EXPECT_EQ(file.GetNumberOfSubPrograms(), 1);
+  EXPECT_TRUE(result->GetStringList().empty());
+}
+
+TEST(KccNcFile, EmptyTextWithoutKeepUnfinishedHasNoNcStructure) {
+  KCC_NcFile file;
+  EXPECT_EQ(file.LoadFromStringList(KCStringList(), false, false), nullptr);
+  EXPECT_TRUE(file.HasFileWithoutNcStructureError());
+}
+
+TEST(KccNcFile, TextWithoutEndCodeHasNoNcStructure) {
+  KCC_NcFile file;
+  EXPECT_EQ(file.LoadFromStringList(Lines({"O1", "G0 X0", "M02"}), false, false), nullptr);
+  EXPECT_TRUE(file.HasFileWithoutNcStructureError());
+  EXPECT_TRUE(file.IsSubProgramsEmpty());
+}
+
+TEST(KccNcFile, NineHundredNinetyNineThousandNineHundredNinetyEightLinesLoad) {
+  KCStringList text;
+  text.reserve(999998);
+  for (int i = 0; i < 999997; ++i)
+    text.push_back("G1");
+  text.push_back("M30");
+  KCC_NcFile file;
+  EXPECT_NE(file.LoadFromStringList(text, false, false), nullptr);
+  EXPECT_TRUE(file.HasNoError());
+  EXPECT_EQ(file.GetMainProgList().GetProgram(0)->GetStringList().size(), 999998u);
+}
+
+TEST(KccNcFile, NineHundredNinetyNineThousandNineHundredNinetyNineLinesAreTooMany) {
+  KCStringList text;
+  text.reserve(999999);
+  text.push_back("M30");
+  for (int i = 1; i < 999999; ++i)
+    text.push_back("G1");
+  KCC_NcFile file;
+  EXPECT_EQ(file.LoadFromStringList(text, false, false), nullptr);
+  EXPECT_TRUE(file.HasTooManyLinesError());
+  // Programs stored before the budget ran out stay in the lists.
+  EXPECT_EQ(file.GetNumberOfMainPrograms(), 1);
+}
+
+TEST(KccNcFile, CheckMultipleProgramNumbersLooksAtBothLists) {
+  KCC_NcFile file;
+  file.LoadFromStringList(Lines({"O5", "M99", "O6", "M30", "O5", "M30"}), false, false);
+  EXPECT_TRUE(file.CheckMultipleProgramNumbers());
+  file.LoadFromStringList(Lines({"O5", "M99", "O6", "M30"}), false, false);
+  EXPECT_FALSE(file.CheckMultipleProgramNumbers());
+}
+
+TEST(KccNcFile, RemoveAndClearWorkOnTheirList) {
+  KCC_NcFile file;
+  file.LoadFromStringList(Lines({"O5", "M99", "O6", "M30", "O7", "M30"}), false, false);
+  EXPECT_FALSE(file.RemoveProgramFromMainProgramList(5));
+  EXPECT_TRUE(file.RemoveProgramFromSubProgramList(5));
+  EXPECT_TRUE(file.RemoveProgramFromMainProgramList(6));
+  EXPECT_EQ(file.GetNumberOfMainPrograms(), 1);
+  file.ClearMainProgramsList();
+  EXPECT_TRUE(file.IsMainProgramsEmpty());
+}
+
+TEST(KccNcFile, ReInitForgetsEverythingButTheStructure) {
+  TempDir dir;
+  const std::string path = dir.WriteFile("s.mpf", "N50 FIRST_BLOCK\nRET\n");
+  KCC_NcFile file;
+  ASSERT_NE(file.LoadFromFile(path, true, false), nullptr);
+  EXPECT_EQ(file.GetLoadedFromFileId(), path);
+  file.ReInit();
+  EXPECT_EQ(file.GetLoadedFromFileId(), "");
+  EXPECT_TRUE(file.HasNoError());
+  EXPECT_TRUE(file.IsMainProgramsEmpty());
+  EXPECT_TRUE(file.IsSiemensNcFileStructure());
+}
+
+// ---- files ----
+
+TEST(KccNcFile, EmptyFileNameIsReported) {
+  KCC_NcFile file;
+  EXPECT_EQ(file.LoadFromFile("", false, false), nullptr);
+  EXPECT_TRUE(file.HasNoFileNameError());
+}
+
+TEST(KccNcFile, MissingFileIsReportedAndTheListsStay) {
+  KCC_NcFile file;
+  file.LoadFromStringList(Lines({"O1", "M30"}), false, false);
+  TempDir dir;
+  EXPECT_EQ(file.LoadFromFile(dir.Path("none.nc"), false, false), nullptr);
+  EXPECT_TRUE(file.HasFileNotFoundError());
+  EXPECT_EQ(file.GetNumberOfMainPrograms(), 1);
+}
+
+TEST(KccNcFile, LoadsAFileWithProgramsAndRemembersItsName) {
+  TempDir dir;
+  const std::string path = dir.WriteFile("p.nc", "%\nO1 (ONE)\nG0 X0\nM30\nO8000\nM99\n%\n");
+  KCC_NcFile file;
+  ASSERT_NE(file.LoadFromFile(path, false, false), nullptr);
+  EXPECT_TRUE(file.HasNoError());
+  EXPECT_EQ(file.GetLoadedFromFileId(), path);
+  EXPECT_EQ(file.GetNumberOfMainPrograms(), 1);
+  EXPECT_EQ(file.GetNumberOfSubPrograms(), 1);
+  EXPECT_EQ(file.GetMainProgList().GetProgram(0)->GetProgramRef(), "ONE");
+}
+
+TEST(KccNcFile, FileWithoutProgramsStillRemembersItsName) {
+  TempDir dir;
+  const std::string path = dir.WriteFile("p.nc", "G0 X0\n");
+  KCC_NcFile file;
+  EXPECT_EQ(file.LoadFromFile(path, false, false), nullptr);
+  EXPECT_TRUE(file.HasFileWithoutNcStructureError());
+  EXPECT_EQ(file.GetLoadedFromFileId(), path);
+}
+
+TEST(KccNcFile, SaveWritesThePercentLinesBackMainProgramsFirst) {
+  TempDir dir;
+  const std::string in = dir.WriteFile("in.nc", "%\nO8010\nM99\nO1\nM30\n%\n");
+  KCC_NcFile file;
+  ASSERT_NE(file.LoadFromFile(in, false, false), nullptr);
+  ASSERT_TRUE(file.SaveToFile(dir.Path("out.nc")));
+  EXPECT_EQ(dir.ReadFile("out.nc"), "%\nO1\nM30\nO8010\nM99\n%\n");
+}
+
+TEST(KccNcFile, SaveWithDirectoryAndNameJoinsThem) {
+  TempDir dir;
+  KCC_NcFile file;
+  file.LoadFromStringList(Lines({"O1", "M30"}), false, false);
+  ASSERT_TRUE(file.SaveToFile(KCString(dir.Path()), KCString("joined.nc")));
+  EXPECT_EQ(dir.ReadFile("joined.nc"), "%\nO1\nM30\n%\n");
+}
+
+TEST(KccNcFile, SaveDoesNotDoubleExistingPercentLines) {
+  TempDir dir;
+  KCC_NcFile file;
+  file.LoadFromStringList(Lines({"O1", "M30"}), false, false);
+  KCC_NcFileProgram* p = file.GetMainProgList().GetProgram(0);
+  p->GetStringList().insert(p->GetStringList().begin(), "%");
+  p->AddLine("%");
+  ASSERT_TRUE(file.SaveToFile(dir.Path("o.nc")));
+  EXPECT_EQ(dir.ReadFile("o.nc"), "%\nO1\nM30\n%\n");
+}
+
+TEST(KccNcFile, SaveOfNoProgramsWritesAnEmptyFile) {
+  TempDir dir;
+  dir.WriteFile("o.nc", "old");
+  KCC_NcFile file;
+  ASSERT_TRUE(file.SaveToFile(dir.Path("o.nc")));
+  EXPECT_TRUE(dir.Exists("o.nc"));
+  EXPECT_EQ(dir.ReadFile("o.nc"), "");
+}
+
+TEST(KccNcFile, SaveWithEmptyNameFails) {
+  KCC_NcFile file;
+  EXPECT_FALSE(file.SaveToFile(""));
+}
+
+TEST(KccNcFile, FailedSaveLeavesTheExistingTargetAlone) {
+  TempDir dir;
+  // The target is a directory: it cannot be replaced by a file, and nothing inside it changes.
+  dir.WriteFile("target.nc/keep.txt", "keep");
+  KCC_NcFile file;
+  file.LoadFromStringList(Lines({"O1", "M30"}), false, false);
+  EXPECT_FALSE(file.SaveToFile(dir.Path("target.nc")));
+  EXPECT_EQ(dir.ReadFile("target.nc/keep.txt"), "keep");
+}
+
+TEST(KccNcFile, SaveIntoAMissingDirectoryFails) {
+  TempDir dir;
+  KCC_NcFile file;
+  file.LoadFromStringList(Lines({"O1", "M30"}), false, false);
+  EXPECT_FALSE(file.SaveToFile(dir.Path("no/such/dir/o.nc")));
+}
+
+TEST(KccNcFile, SaveLeavesNoTemporaryFileBehind) {
+  TempDir dir;
+  KCC_NcFile file;
+  file.LoadFromStringList(Lines({"O1", "M30"}), false, false);
+  ASSERT_TRUE(file.SaveToFile(dir.Path("o.nc")));
+  EXPECT_FALSE(dir.Exists("o.nc.~save0"));
+}

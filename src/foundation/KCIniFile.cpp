@@ -78,6 +78,12 @@ IniLine ParseLine(const std::string& text) {
   return line;
 }
 
+KCString Trimmed(const KCString& text) {
+  KCString copy(text);
+  copy.Trim();
+  return copy;
+}
+
 bool HasLineBreak(const KCString& text) {
   return text.Find('\n') != KCString::npos || text.Find('\r') != KCString::npos;
 }
@@ -91,14 +97,16 @@ class IniText {
 
   State GetState() const noexcept { return m_state; }
 
-  // Index of the first key line `key` in any occurrence of `section`, or -1.
+  // Index of the first key line `key` in any occurrence of `section`, or -1. Both names are trimmed.
   int FindKey(const KCString& section, const KCString& key) const {
-    bool inSection = KCString().EqualsNoCase(section);  // lines before the first header belong to ""
+    const KCString sectionName = Trimmed(section);
+    const KCString keyName = Trimmed(key);
+    bool inSection = sectionName.IsEmpty();  // lines before the first header belong to ""
     for (std::size_t i = 0; i < m_lines.size(); ++i) {
       const IniLine& line = m_lines[i];
       if (line.kind == IniLine::Kind::Section) {
-        inSection = line.name.EqualsNoCase(section);
-      } else if (inSection && line.kind == IniLine::Kind::Key && line.name.EqualsNoCase(key)) {
+        inSection = line.name.EqualsNoCase(sectionName);
+      } else if (inSection && line.kind == IniLine::Kind::Key && line.name.EqualsNoCase(keyName)) {
         return static_cast<int>(i);
       }
     }
@@ -194,7 +202,7 @@ class IniText {
   int InsertionPoint(const KCString& section) const {
     int header = -1;
     int lastKey = -1;
-    if (KCString().EqualsNoCase(section)) {
+    if (section.IsEmpty()) {
       // The nameless section: the lines before the first header.
       for (std::size_t i = 0; i < m_lines.size() && m_lines[i].kind != IniLine::Kind::Section; ++i) {
         if (m_lines[i].kind == IniLine::Kind::Key)
@@ -225,11 +233,10 @@ class IniText {
   bool m_bom = false;
 };
 
+// True when a key written with these (trimmed) names and value reads back as written.
 bool IsWritable(const KCString& section, const KCString& key, const KCString& value) {
-  KCString trimmedKey(key);
-  trimmedKey.Trim();
-  const char first = trimmedKey.GetAt(0);
-  if (trimmedKey.IsEmpty() || first == '[' || first == ';' || first == '#')
+  const char first = key.GetAt(0);
+  if (key.IsEmpty() || first == '[' || first == ';' || first == '#')
     return false;
   if (key.Find('=') != KCString::npos || HasLineBreak(key))
     return false;
@@ -277,18 +284,15 @@ double KCIniFile::ReadDouble(const KCString& section, const KCString& key, doubl
 }
 
 bool KCIniFile::WriteString(const KCString& section, const KCString& key, const KCString& value) {
-  KCString trimmedValue(value);
-  trimmedValue.Trim();
-  if (!IsWritable(section, key, trimmedValue))
+  const KCString sectionName = Trimmed(section);
+  const KCString keyName = Trimmed(key);
+  const KCString text = Trimmed(value);
+  if (!IsWritable(sectionName, keyName, text))
     return false;
-  KCString trimmedSection(section);
-  trimmedSection.Trim();
-  KCString trimmedKey(key);
-  trimmedKey.Trim();
   IniText ini(m_fileName);
   if (ini.GetState() == IniText::State::Unreadable)
     return false;
-  ini.Set(trimmedSection, trimmedKey, trimmedValue);
+  ini.Set(sectionName, keyName, text);
   return ini.Save();
 }
 

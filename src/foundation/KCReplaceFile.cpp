@@ -1,11 +1,17 @@
 #include "foundation/KCReplaceFile.h"
 
+#include <algorithm>
 #include <atomic>
 #include <cstdio>
 #include <random>
 
 #if defined(_WIN32)
 #include <windows.h>
+#else
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <cerrno>
 #endif
 
 namespace ncappkit_detail {
@@ -20,29 +26,79 @@ std::string TemporaryName(const std::string& path) {
   return path + ".tmp" + std::to_string(seed) + "-" + std::to_string(counter.fetch_add(1));
 }
 
-bool MoveOver(const std::string& from, const std::string& to) {
+enum class Created { Ok, NameTaken, Failed };
+
 #if defined(_WIN32)
-  return MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING) != 0;
-#else
-  return std::rename(from.c_str(), to.c_str()) == 0;
-#endif
+
+// Creates `temporary` (never reusing an existing file), writes `content` and flushes it to the disk.
+Created WriteNewFile(const std::string& temporary, const std::string& content, const std::string& /*path*/) {
+  const HANDLE file =
+      CreateFileA(temporary.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (file == INVALID_HANDLE_VALUE) {
+    return GetLastError() == ERROR_FILE_EXISTS ? Created::NameTaken : Created::Failed;
+  }
+  bool ok = true;
+  std::size_t done = 0;
+  while (ok && done < content.size()) {
+    const std::size_t chunk = std::min<std::size_t>(content.size() - done, 1u << 30);
+    DWORD written = 0;
+    ok = WriteFile(file, content.data() + done, static_cast<DWORD>(chunk), &written, nullptr) != 0 &&
+         written > 0;
+    done += written;
+  }
+  ok = FlushFileBuffers(file) != 0 && ok;
+  ok = CloseHandle(file) != 0 && ok;
+  return ok ? Created::Ok : Created::Failed;
 }
+
+bool MoveOver(const std::string& from, const std::string& to) {
+  return MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+}
+
+#else
+
+// Creates `temporary` (never reusing an existing file) with the permissions of the file it will replace,
+// writes `content` and flushes it to the disk, so that the rename can only ever expose complete contents.
+Created WriteNewFile(const std::string& temporary, const std::string& content, const std::string& path) {
+  const int fd = open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+  if (fd < 0)
+    return errno == EEXIST ? Created::NameTaken : Created::Failed;
+  bool ok = true;
+  struct stat old {};
+  if (stat(path.c_str(), &old) == 0)
+    ok = fchmod(fd, old.st_mode & 07777) == 0;
+  std::size_t done = 0;
+  while (ok && done < content.size()) {
+    const ssize_t written = write(fd, content.data() + done, content.size() - done);
+    if (written < 0 && errno == EINTR)
+      continue;
+    ok = written > 0;
+    if (ok)
+      done += static_cast<std::size_t>(written);
+  }
+  ok = fsync(fd) == 0 && ok;
+  ok = close(fd) == 0 && ok;
+  return ok ? Created::Ok : Created::Failed;
+}
+
+bool MoveOver(const std::string& from, const std::string& to) {
+  return std::rename(from.c_str(), to.c_str()) == 0;
+}
+
+#endif
 
 }  // namespace
 
 bool ReplaceFileContents(const std::string& path, const std::string& content) {
-  constexpr int kAttempts = 8;
+  constexpr int kAttempts = 8;  // only a name already taken by someone else is worth another try
   for (int attempt = 0; attempt < kAttempts; ++attempt) {
     const std::string temporary = TemporaryName(path);
-    // "x": never reuse a file someone else created under the same name.
-    std::FILE* file = std::fopen(temporary.c_str(), "wbx");
-    if (file == nullptr)
+    const Created created = WriteNewFile(temporary, content, path);
+    if (created == Created::NameTaken)
       continue;
-    const bool written = std::fwrite(content.data(), 1, content.size(), file) == content.size();
-    const bool closed = std::fclose(file) == 0;
-    if (written && closed && MoveOver(temporary, path))
+    if (created == Created::Ok && MoveOver(temporary, path))
       return true;
-    std::remove(temporary.c_str());
+    std::remove(temporary.c_str());  // a partly written or unrenamed temporary file
     return false;
   }
   return false;

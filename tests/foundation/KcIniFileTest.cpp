@@ -55,6 +55,16 @@ TEST(KcIniFile, NamesAndValuesAreTrimmed) {
   KCIniFile ini(dir.WriteFile("a.ini", "  [ App ]  \n\t Lang  =   Eng  \t\n"));
 
   EXPECT_EQ(ini.ReadString("App", "Lang", "", false), "Eng");
+  EXPECT_EQ(ini.ReadString(" App\t", "  Lang ", "", false), "Eng");
+}
+
+TEST(KcIniFile, WriteWithBlanksAroundNamesUpdatesTheSameKey) {
+  TempDir dir;
+  KCIniFile ini(dir.WriteFile("a.ini", "[App]\nLang=Eng\n"));
+
+  ASSERT_TRUE(ini.WriteString("  App ", " Lang\t", "Fra"));
+
+  EXPECT_EQ(dir.ReadFile("a.ini"), "[App]\nLang=Fra\n");
 }
 
 TEST(KcIniFile, ReadsCrLfFilesLikeLfFiles) {

@@ -1,0 +1,69 @@
+// The application's display name.
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "ncappkit/config/KCC_AppName.h"
+#include "ncappkit/foundation/KCFileMan.h"
+#include "ncappkit/foundation/KCPlatform.h"
+#include "support/TempDir.h"
+
+TEST(KccAppName, RunningProgramGivesBaseNameAndVersion) {
+  const KCString exe = KCC_GetExecutablePath();
+  ASSERT_FALSE(exe.empty());
+  const KCString version = KCFileMan::GetFullFileVersion(exe, false);
+  ASSERT_FALSE(version.empty());
+  KCString name;
+  ASSERT_TRUE(KCC_AppName::PrepareAppName(name));
+  EXPECT_EQ(name, KCString("ncappkit_config_tests V") + version);
+}
+
+TEST(KccAppName, ShortNameIsKeptWhole) {
+  TempDir dir;
+  const std::string exe = dir.WriteFile("mill.exe", "");
+  KCString name;
+  ASSERT_TRUE(KCC_AppName::MakeAppName(exe, name));
+  EXPECT_EQ(name, KCString("mill V") + KCFileMan::GetFullFileVersion(exe, false));
+}
+
+TEST(KccAppName, LongBaseNameGivesWayToTheVersion) {
+  TempDir dir;
+  const std::string base = "abcdefghijklmnopqrstuvwxyz0123456789ABCD";
+  ASSERT_EQ(base.size(), 40u);
+  const std::string exe = dir.WriteFile(base + ".exe", "");
+  const KCString suffix = KCString(" V") + KCFileMan::GetFullFileVersion(exe, false);
+  ASSERT_GT(suffix.GetLength(), 2);
+  KCString name;
+  ASSERT_TRUE(KCC_AppName::MakeAppName(exe, name));
+  EXPECT_EQ(name.GetLength(), 30);
+  EXPECT_EQ(name, KCString(base.substr(0, static_cast<std::size_t>(30 - suffix.GetLength()))) + suffix);
+}
+
+TEST(KccAppName, MissingVersionStillGivesTheSuffixLetter) {
+  // A path that does not exist has no version: the name is the base name and " V".
+  KCString name;
+  ASSERT_TRUE(KCC_AppName::MakeAppName("/no/such/dir/tool.exe", name));
+  EXPECT_EQ(name, "tool V");
+}
+
+TEST(KccAppName, NameOfExactlyThirtyCharactersIsKept) {
+  KCString name;
+  const std::string base(28, 'x');
+  ASSERT_TRUE(KCC_AppName::MakeAppName(KCString("/no/such/") + KCString(base), name));
+  EXPECT_EQ(name, KCString(base) + " V");
+  EXPECT_EQ(name.GetLength(), 30);
+}
+
+TEST(KccAppName, EmptyPathFailsAndLeavesTheName) {
+  KCString name = "before";
+  EXPECT_FALSE(KCC_AppName::MakeAppName("", name));
+  EXPECT_EQ(name, "before");
+}
+
+TEST(KccAppName, OverlongPathFailsAndLeavesTheName) {
+  KCString name = "before";
+  const KCString path = KCString("/") + KCString(std::string(259, 'p'));
+  ASSERT_EQ(path.GetLength(), 260);
+  EXPECT_FALSE(KCC_AppName::MakeAppName(path, name));
+  EXPECT_EQ(name, "before");
+}

@@ -58,6 +58,23 @@ TEST_F(KccMessageBox, NewBoxHasNoAnswerAndEveryPredicateIsFalse) {
   EXPECT_FALSE(box.IsNo());
 }
 
+TEST_F(KccMessageBox, NamedCodesAreTheWindowsMessageBoxValues) {
+  KCC_MessageBox box;
+  box.SetTypeYesNo();
+  box.SetIconStop();
+  box.SetDefaultButton(2);
+  g_answer = 7;
+
+  box.DoModal();
+
+  EXPECT_EQ(box.GetButtonType(), KCC_MessageBox::kTypeYesNo);
+  EXPECT_EQ(box.GetIconType(), KCC_MessageBox::kIconStop);
+  EXPECT_EQ(box.GetDefaultButtonCode(), KCC_MessageBox::kDefaultButton2);
+  EXPECT_EQ(box.GetReturn(), KCC_MessageBox::kReturnNo);
+  EXPECT_EQ(KCC_MessageBox().GetReturn(), KCC_MessageBox::kReturnNone);
+  EXPECT_EQ(g_shown.style, 0x114u);
+}
+
 TEST_F(KccMessageBox, NewBoxHasEmptyTextsOkButtonInformationIconFirstDefault) {
   KCC_MessageBox box;
 

@@ -91,31 +91,37 @@ class NCAPPKIT_EXPORT KCI_MessageBox : public KCC_MessageReporter {
 /// The working message box.
 class NCAPPKIT_EXPORT KCC_MessageBox : public KCI_MessageBox {
  public:
-  /// Button codes of the box's style (Windows MB_OK ... MB_RETRYCANCEL).
-  static constexpr std::int32_t kTypeOk = 0;
-  static constexpr std::int32_t kTypeOkCancel = 1;
-  static constexpr std::int32_t kTypeAbortRetryIgnore = 2;
-  static constexpr std::int32_t kTypeYesNoCancel = 3;
-  static constexpr std::int32_t kTypeYesNo = 4;
-  static constexpr std::int32_t kTypeRetryCancel = 5;
+  // The codes are enumerators rather than static data members, so that using them never needs a symbol
+  // from the shared library.
+  /// Button-set codes of the box's style (Windows MB_OK ... MB_RETRYCANCEL).
+  enum ButtonType : std::int32_t {
+    kTypeOk = 0,
+    kTypeOkCancel = 1,
+    kTypeAbortRetryIgnore = 2,
+    kTypeYesNoCancel = 3,
+    kTypeYesNo = 4,
+    kTypeRetryCancel = 5
+  };
   /// Icon codes of the box's style (Windows MB_ICONSTOP ... MB_ICONINFORMATION).
-  static constexpr std::int32_t kIconStop = 0x10;
-  static constexpr std::int32_t kIconQuestion = 0x20;
-  static constexpr std::int32_t kIconExclamation = 0x30;
-  static constexpr std::int32_t kIconInformation = 0x40;
+  enum IconType : std::int32_t {
+    kIconStop = 0x10,
+    kIconQuestion = 0x20,
+    kIconExclamation = 0x30,
+    kIconInformation = 0x40
+  };
   /// Default-button codes of the box's style (Windows MB_DEFBUTTON1 ... MB_DEFBUTTON3).
-  static constexpr std::int32_t kDefaultButton1 = 0;
-  static constexpr std::int32_t kDefaultButton2 = 0x100;
-  static constexpr std::int32_t kDefaultButton3 = 0x200;
+  enum DefaultButton : std::int32_t { kDefaultButton1 = 0, kDefaultButton2 = 0x100, kDefaultButton3 = 0x200 };
   /// Answer codes (Windows IDOK ... IDNO), and the code of a box that has not been answered yet.
-  static constexpr std::uint32_t kReturnOk = 1;
-  static constexpr std::uint32_t kReturnCancel = 2;
-  static constexpr std::uint32_t kReturnAbort = 3;
-  static constexpr std::uint32_t kReturnRetry = 4;
-  static constexpr std::uint32_t kReturnIgnore = 5;
-  static constexpr std::uint32_t kReturnYes = 6;
-  static constexpr std::uint32_t kReturnNo = 7;
-  static constexpr std::uint32_t kReturnNone = 0xFFFFFFFFu;
+  enum ReturnCode : std::uint32_t {
+    kReturnOk = 1,
+    kReturnCancel = 2,
+    kReturnAbort = 3,
+    kReturnRetry = 4,
+    kReturnIgnore = 5,
+    kReturnYes = 6,
+    kReturnNo = 7,
+    kReturnNone = 0xFFFFFFFFu
+  };
 
   /// A box without owner window, empty texts, OK button, information icon, first button as default.
   KCC_MessageBox();

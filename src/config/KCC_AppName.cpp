@@ -22,3 +22,8 @@ bool KCC_AppName::MakeAppName(const KCString& path, KCString& name) {
   name = result;
   return true;
 }
+
+// Definitions of the class's constants. With them the Windows DLL exports the constants, so that a program
+// that takes one by reference or address links against the DLL's copy.
+constexpr int KCC_AppName::kMaxNameLength;
+constexpr int KCC_AppName::kMaxPathLength;

@@ -152,3 +152,11 @@ bool KCC_CfgApplication::DoConfigurationWriteEnableCheck(KCC_CfgObject& cfg) {
   m_writeEnable = cfg.ReadCfgInteger(kKeyWriteEnable, kUnreadable) == next;
   return m_writeEnable;
 }
+
+// Definitions of the class's constants. With them the Windows DLL exports the constants, so that a program
+// that takes one by reference or address links against the DLL's copy.
+constexpr std::int32_t KCC_CfgApplication::kNed;
+constexpr std::int32_t KCC_CfgApplication::kFra;
+constexpr std::int32_t KCC_CfgApplication::kEng;
+constexpr std::int32_t KCC_CfgApplication::kDts;
+constexpr std::int32_t KCC_CfgApplication::kIta;

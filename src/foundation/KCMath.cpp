@@ -7,3 +7,7 @@ bool KCMath::AlmostEq(double a, double b, double tolerance) noexcept {
     return true;  // also equal infinities
   return std::fabs(a - b) <= tolerance;
 }
+
+// Definitions of the class's constants. With them the Windows DLL exports the constants, so that a program
+// that takes one by reference or address links against the DLL's copy.
+constexpr double KCMath::Pi;

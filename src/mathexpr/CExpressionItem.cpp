@@ -98,3 +98,7 @@ CExpressionItemList::iterator CExpressionItemList::FindOperator() noexcept {
 CExpressionItemList::const_iterator CExpressionItemList::FindOperator() const noexcept {
   return const_cast<CExpressionItemList*>(this)->FindOperator();
 }
+
+// Definitions of the class's constants. With them the Windows DLL exports the constants, so that a program
+// that takes one by reference or address links against the DLL's copy.
+constexpr CExpressionItemList::size_type CExpressionItemList::kMaxItems;

@@ -259,3 +259,7 @@ KCString KCC_MmInch_Format::FormatWeight(double value) const {
 KCString KCC_MmInch_Format::FormatSpecWeight(double value) const {
   return Format(value, 1, 3);
 }
+
+// Definitions of the class's constants. With them the Windows DLL exports the constants, so that a program
+// that takes one by reference or address links against the DLL's copy.
+constexpr double KCC_MmInch::kMmPerInch;

@@ -1,0 +1,126 @@
+#include "support/ChildProcess.h"
+
+#if defined(__unix__) || defined(__APPLE__)
+#include <fcntl.h>
+#include <poll.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <chrono>
+
+namespace {
+
+void CloseFd(int& fd) {
+  if (fd >= 0) {
+    close(fd);
+    fd = -1;
+  }
+}
+
+}  // namespace
+
+bool CanRunChildren() {
+  return true;
+}
+
+ChildResult RunChild(const std::vector<std::string>& argv, double timeoutSeconds) {
+  ChildResult result;
+  if (argv.empty())
+    return result;
+  int outPipe[2] = {-1, -1};
+  int errPipe[2] = {-1, -1};
+  if (pipe(outPipe) != 0)
+    return result;
+  if (pipe(errPipe) != 0) {
+    CloseFd(outPipe[0]);
+    CloseFd(outPipe[1]);
+    return result;
+  }
+  std::vector<char*> args;
+  for (const std::string& a : argv)
+    args.push_back(const_cast<char*>(a.c_str()));
+  args.push_back(nullptr);
+
+  const pid_t pid = fork();
+  if (pid == 0) {
+    dup2(outPipe[1], STDOUT_FILENO);
+    dup2(errPipe[1], STDERR_FILENO);
+    close(outPipe[0]);
+    close(outPipe[1]);
+    close(errPipe[0]);
+    close(errPipe[1]);
+    execv(args[0], args.data());
+    _exit(127);
+  }
+  CloseFd(outPipe[1]);
+  CloseFd(errPipe[1]);
+  if (pid < 0) {
+    CloseFd(outPipe[0]);
+    CloseFd(errPipe[0]);
+    return result;
+  }
+
+  const auto deadline = std::chrono::steady_clock::now() +
+                        std::chrono::milliseconds(static_cast<long long>(timeoutSeconds * 1000));
+  int fds[2] = {outPipe[0], errPipe[0]};
+  std::string* sinks[2] = {&result.out, &result.err};
+  while (fds[0] >= 0 || fds[1] >= 0) {
+    const auto left =
+        std::chrono::duration_cast<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
+    if (left.count() <= 0) {
+      result.timedOut = true;
+      kill(pid, SIGKILL);
+      break;
+    }
+    pollfd polls[2];
+    nfds_t count = 0;
+    int which[2] = {-1, -1};
+    for (int i = 0; i < 2; ++i) {
+      if (fds[i] >= 0) {
+        polls[count].fd = fds[i];
+        polls[count].events = POLLIN;
+        polls[count].revents = 0;
+        which[count] = i;
+        ++count;
+      }
+    }
+    const int ready = poll(polls, count, static_cast<int>(left.count() > 1000 ? 1000 : left.count()));
+    if (ready < 0 && errno != EINTR)
+      break;
+    for (nfds_t p = 0; p < count; ++p) {
+      if ((polls[p].revents & (POLLIN | POLLHUP | POLLERR)) == 0)
+        continue;
+      const int i = which[p];
+      char buffer[65536];
+      const ssize_t n = read(fds[i], buffer, sizeof buffer);
+      if (n > 0)
+        sinks[i]->append(buffer, static_cast<std::size_t>(n));
+      else if (n == 0 || errno != EINTR)
+        CloseFd(fds[i]);
+    }
+  }
+  CloseFd(fds[0]);
+  CloseFd(fds[1]);
+  int status = 0;
+  while (waitpid(pid, &status, 0) < 0 && errno == EINTR) {
+  }
+  if (!result.timedOut && WIFEXITED(status))
+    result.exitCode = WEXITSTATUS(status);
+  return result;
+}
+
+#else
+
+bool CanRunChildren() {
+  return false;
+}
+
+ChildResult RunChild(const std::vector<std::string>& /*argv*/, double /*timeoutSeconds*/) {
+  ChildResult result;
+  result.err = "running programs is not supported on this system";
+  return result;
+}
+
+#endif

@@ -1,0 +1,28 @@
+// ChildProcess: run a program with arguments (no shell), capture its standard output and error and its exit
+// code, and stop it when it runs too long, so that tests of command-line tools can never hang.
+//
+//   ChildResult r = RunChild({NCKIT_EXE, "calc", "2+3"});
+//   EXPECT_EQ(r.exitCode, 0);
+//   EXPECT_EQ(r.out, "5\n");
+#pragma once
+
+#include <string>
+#include <vector>
+
+struct ChildResult {
+  /// Exit code of the program; -1 when it did not exit normally (killed, crashed, not started).
+  int exitCode = -1;
+  /// True when the program was stopped because it exceeded the time limit.
+  bool timedOut = false;
+  /// Everything it wrote to standard output.
+  std::string out;
+  /// Everything it wrote to standard error.
+  std::string err;
+};
+
+/// Run argv[0] with the arguments argv[1..] and wait at most `timeoutSeconds` for it to end.
+/// Off POSIX systems the result has exitCode -1 and err says that running programs is not supported.
+ChildResult RunChild(const std::vector<std::string>& argv, double timeoutSeconds = 30.0);
+
+/// True when RunChild can run programs on this system.
+bool CanRunChildren();

@@ -1,0 +1,114 @@
+// nckit check, run as a program.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "support/ChildProcess.h"
+#include "support/TempDir.h"
+
+namespace {
+
+const std::string kFanucSample = std::string(NCAPPKIT_SOURCE_DIR) + "/samples/fanuc_programs.nc";
+
+ChildResult Check(const std::vector<std::string>& args) {
+  std::vector<std::string> argv = {NCKIT_EXE, "check"};
+  argv.insert(argv.end(), args.begin(), args.end());
+  return RunChild(argv);
+}
+
+class NckitCheck : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    if (!CanRunChildren())
+      GTEST_SKIP() << "cannot run programs here";
+  }
+};
+
+}  // namespace
+
+TEST_F(NckitCheck, CleanFilePasses) {
+  const ChildResult r = Check({kFanucSample});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(r.out, kFanucSample + ": ok, 2 main and 4 sub-programs\n");
+  EXPECT_EQ(r.err, "");
+}
+
+TEST_F(NckitCheck, EachDuplicateNumberIsOneLine) {
+  TempDir dir;
+  const std::string path = dir.WriteFile("dup.nc", "O5\nM30\nO5\nM99\nO7\nM99\nO0007\nM99\nO8\nM30\n");
+  const ChildResult r = Check({path});
+  EXPECT_EQ(r.exitCode, 1);
+  EXPECT_EQ(r.err, "nckit check: " + path + ": program number 0005 occurs 2 times\n" +
+                       "nckit check: " + path + ": program number 0007 occurs 2 times\n");
+}
+
+TEST_F(NckitCheck, ProgramsWithoutNumberAreNotDuplicates) {
+  TempDir dir;
+  const std::string path = dir.WriteFile("s.mpf", "G0 X0\nRET\nG1 X1\nRET\n");
+  EXPECT_EQ(Check({path}).exitCode, 0);
+}
+
+TEST_F(NckitCheck, TooLongLineIsNamed) {
+  TempDir dir;
+  const std::string path = dir.WriteFile("long.nc", "O1\n" + std::string(128, 'X') + "\nM30\n");
+  const ChildResult r = Check({path});
+  EXPECT_EQ(r.exitCode, 1);
+  EXPECT_NE(r.err.find(": too many lines: line 2 has 128 characters"), std::string::npos) << r.err;
+  EXPECT_NE(r.err.find("--no-line-limit"), std::string::npos);
+}
+
+TEST_F(NckitCheck, LineOf127CharactersPasses) {
+  TempDir dir;
+  const std::string path = dir.WriteFile("ok.nc", "O1\n" + std::string(127, 'X') + "\nM30\n");
+  EXPECT_EQ(Check({path}).exitCode, 0);
+}
+
+TEST_F(NckitCheck, NoLineLimitPassesTheLongLine) {
+  TempDir dir;
+  const std::string path = dir.WriteFile("long.nc", "O1\n" + std::string(10000, 'X') + "\nM30\n");
+  EXPECT_EQ(Check({path, "--no-line-limit"}).exitCode, 0);
+}
+
+TEST_F(NckitCheck, AMillionLinesAreTooMany) {
+  TempDir dir;
+  std::string text;
+  for (int i = 0; i < 1000000; ++i)
+    text += "G1\n";
+  const std::string path = dir.WriteFile("million.nc", text);
+  const ChildResult r = Check({path});
+  EXPECT_EQ(r.exitCode, 1);
+  EXPECT_EQ(r.err, "nckit check: " + path + ": too many lines: more than 999998 lines\n");
+}
+
+TEST_F(NckitCheck, EmptyFileHasNoNcStructure) {
+  TempDir dir;
+  const std::string path = dir.WriteFile("empty.nc", "");
+  const ChildResult r = Check({path});
+  EXPECT_EQ(r.exitCode, 1);
+  EXPECT_NE(r.err.find("no NC structure"), std::string::npos);
+  EXPECT_EQ(Check({path, "--keep-unfinished"}).exitCode, 0);
+}
+
+TEST_F(NckitCheck, NulBytesDoNotCrash) {
+  TempDir dir;
+  const std::string path = dir.WriteFile("nul.nc", std::string("O1\0\0\0\nM30\n", 10));
+  const ChildResult r = Check({path});
+  EXPECT_EQ(r.exitCode, 0);
+}
+
+TEST_F(NckitCheck, MissingFileIsAUsageError) {
+  const ChildResult r = Check({"/no/such/file.nc"});
+  EXPECT_EQ(r.exitCode, 2);
+  EXPECT_EQ(r.err, "nckit check: /no/such/file.nc: no such file\n");
+}
+
+TEST_F(NckitCheck, UnknownOptionIsAUsageError) {
+  EXPECT_EQ(Check({kFanucSample, "-x"}).exitCode, 2);
+}
+
+TEST_F(NckitCheck, HelpExitsZero) {
+  const ChildResult r = Check({"--help"});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(r.out.rfind("usage: nckit check FILE", 0), 0u);
+}

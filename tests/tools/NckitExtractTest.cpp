@@ -1,0 +1,83 @@
+// nckit extract, run as a program.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "support/ChildProcess.h"
+#include "support/TempDir.h"
+
+namespace {
+
+const std::string kFanucSample = std::string(NCAPPKIT_SOURCE_DIR) + "/samples/fanuc_programs.nc";
+
+ChildResult Extract(const std::vector<std::string>& args) {
+  std::vector<std::string> argv = {NCKIT_EXE, "extract"};
+  argv.insert(argv.end(), args.begin(), args.end());
+  return RunChild(argv);
+}
+
+class NckitExtract : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    if (!CanRunChildren())
+      GTEST_SKIP() << "cannot run programs here";
+  }
+};
+
+const char* const kSetupAndPocket =
+    "%\nO8010 (SETUP)\nN10 G21 G90 G17 G54\nN20 G28 G91 Z0\nN30 M99\n"
+    "O8020 (POCKET)\nN10 G91 G01 Z-2. F150\nN20 G90 X40. Y0\nN30 X40. Y20.\nN40 X0 Y20.\nN50 X0 Y0\nN60 "
+    "M99\n%\n";
+
+}  // namespace
+
+TEST_F(NckitExtract, WritesTheChosenProgramsToStandardOutput) {
+  const ChildResult r = Extract({kFanucSample, "8020", "O8010"});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(r.err, "");
+  EXPECT_EQ(r.out, kSetupAndPocket);
+}
+
+TEST_F(NckitExtract, WritesTheSameTextToAFile) {
+  TempDir dir;
+  const ChildResult r = Extract({kFanucSample, "8010", "8020", "-o", dir.Path("subs.nc")});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(r.out, "");
+  EXPECT_EQ(dir.ReadFile("subs.nc"), kSetupAndPocket);
+}
+
+TEST_F(NckitExtract, MainProgramsComeFirst) {
+  const ChildResult r = Extract({kFanucSample, "8030", "2000"});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(r.out.rfind("%\nO2000 (FLANGE)\n", 0), 0u);
+  EXPECT_NE(r.out.find("N60 M30\nO8030 (DRILL CYCLE)\n"), std::string::npos);
+}
+
+TEST_F(NckitExtract, UnknownNumberIsAProblemAndNothingIsWritten) {
+  TempDir dir;
+  const ChildResult r = Extract({kFanucSample, "8010", "4242", "-o", dir.Path("x.nc")});
+  EXPECT_EQ(r.exitCode, 1);
+  EXPECT_EQ(r.err, "nckit extract: " + kFanucSample + ": no program 4242\n");
+  EXPECT_FALSE(dir.Exists("x.nc"));
+}
+
+TEST_F(NckitExtract, BadNumberIsAUsageError) {
+  const ChildResult r = Extract({kFanucSample, "P12"});
+  EXPECT_EQ(r.exitCode, 2);
+  EXPECT_EQ(r.err, "nckit extract: 'P12' is no program number (try 'nckit extract --help')\n");
+}
+
+TEST_F(NckitExtract, MissingNumberIsAUsageError) {
+  EXPECT_EQ(Extract({kFanucSample}).exitCode, 2);
+}
+
+TEST_F(NckitExtract, MissingFileIsAUsageError) {
+  EXPECT_EQ(Extract({"/no/such.nc", "1"}).exitCode, 2);
+}
+
+TEST_F(NckitExtract, HelpExitsZero) {
+  const ChildResult r = Extract({"-h"});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(r.out.rfind("usage: nckit extract FILE NUMBER...", 0), 0u);
+}

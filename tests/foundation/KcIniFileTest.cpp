@@ -1,12 +1,15 @@
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <string>
 
 #include "ncappkit/foundation/KCIniFile.h"
 #include "support/TempDir.h"
 
-#if !defined(_WIN32)
+#if defined(_WIN32)
+#include <fcntl.h>
+#include <io.h>
+#include <share.h>
+#else
 #include <sys/stat.h>
 #include <unistd.h>
 #endif
@@ -18,15 +21,6 @@ const std::string kNl = "\r\n";  // line end of a file the library creates
 #else
 const std::string kNl = "\n";
 #endif
-
-int CountFiles(const std::string& directory) {
-  int files = 0;
-  for (const auto& entry : std::filesystem::directory_iterator(directory)) {
-    (void)entry;
-    ++files;
-  }
-  return files;
-}
 
 // ---------------------------------------------------------------------------------------------------------
 // Reading
@@ -433,7 +427,7 @@ TEST(KcIniFile, WriteLeavesNoTemporaryFileBehind) {
   ASSERT_TRUE(ini.WriteString("App", "A", "1"));
   ASSERT_TRUE(ini.WriteString("App", "B", "2"));
 
-  EXPECT_EQ(CountFiles(dir.Path()), 1);
+  EXPECT_EQ(dir.EntryCount(), 1);
 }
 
 // ---------------------------------------------------------------------------------------------------------
@@ -450,7 +444,7 @@ TEST(KcIniFile, WriteFailsWhenNoFileCanBeCreatedBesideTheIniFile) {
   EXPECT_EQ(ini.ReadString("App", "Lang", "Eng", true), "Eng");  // the failed create does not hurt the read
 
   EXPECT_EQ(dir.ReadFile("blocker"), "precious");
-  EXPECT_EQ(CountFiles(dir.Path()), 1);
+  EXPECT_EQ(dir.EntryCount(), 1);
 }
 
 TEST(KcIniFile, FailedWriteLeavesTheExistingFileIntact) {
@@ -468,7 +462,7 @@ TEST(KcIniFile, FailedWriteLeavesTheExistingFileIntact) {
 
   EXPECT_EQ(dir.ReadFile(name), content);
   EXPECT_EQ(ini.ReadString("App", "Lang", "", false), "Eng");
-  EXPECT_EQ(CountFiles(dir.Path()), 1);
+  EXPECT_EQ(dir.EntryCount(), 1);
 }
 
 #if !defined(_WIN32)
@@ -485,6 +479,23 @@ TEST(KcIniFile, FailedWriteInReadOnlyDirectoryLeavesTheFileIntact) {
   chmod(dir.Path("sub").c_str(), 0755);
   EXPECT_FALSE(written);
   EXPECT_EQ(dir.ReadFile("sub/a.ini"), content);
+}
+#else
+TEST(KcIniFile, FailedWriteWhileAnotherProgramHoldsTheFileLeavesTheFileIntact) {
+  // Windows: a reader that denies writing keeps the file from being replaced, as a read-only directory
+  // does elsewhere.
+  TempDir dir;
+  const std::string content = "[App]\nLang=Eng\n";
+  KCIniFile ini(dir.WriteFile("sub/a.ini", content));
+  const int lock = _sopen(dir.Path("sub/a.ini").c_str(), _O_RDONLY | _O_BINARY, _SH_DENYWR);
+  ASSERT_NE(lock, -1);
+
+  const bool written = ini.WriteString("App", "Lang", "Fra");
+
+  _close(lock);
+  EXPECT_FALSE(written);
+  EXPECT_EQ(dir.ReadFile("sub/a.ini"), content);
+  EXPECT_EQ(dir.EntryCount("sub"), 1);
 }
 #endif
 

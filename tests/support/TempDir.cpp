@@ -85,6 +85,15 @@ bool TempDir::Exists(const std::string& name) const {
   return fs::exists(fs::path(m_path) / name, error);
 }
 
+int TempDir::EntryCount(const std::string& name) const {
+  int count = 0;
+  std::error_code error;
+  for (fs::directory_iterator it(fs::path(m_path) / name, error), end; !error && it != end;
+       it.increment(error))
+    ++count;
+  return count;
+}
+
 std::string TempDir::ReadFileAt(const std::string& path) {
   std::ifstream in(fs::path(path), std::ios::binary);
   if (!in)

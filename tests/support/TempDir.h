@@ -30,6 +30,9 @@ class TempDir {
   std::string ReadFile(const std::string& name) const;
   /// True when `name` exists inside the directory.
   bool Exists(const std::string& name) const;
+  /// Number of files and directories directly inside the directory, or inside its sub-directory `name` (to
+  /// check that nothing was left behind).
+  int EntryCount(const std::string& name = std::string()) const;
 
   /// The bytes of the file at the full path `path`, or "" when it cannot be read.
   static std::string ReadFileAt(const std::string& path);

@@ -14,6 +14,8 @@ constexpr double kArcCircleTolerance = 1e-9;
 constexpr double kArcPolygonStep = kTwoPi / 72.0;
 // AddAsPolygonMaxAngle never appends more edges than this, however small the step.
 constexpr double kArcPolygonMaxSteps = 65536.0;
+// AddAsPolygonMaxAngle: a step count this close above a whole number is rounded down.
+constexpr double kArcPolygonStepSlack = 1e-9;
 // Read rounds to at most this many decimals (more would exceed what a double holds).
 constexpr int kMaxReadDigits = 15;
 
@@ -331,7 +333,10 @@ void KC2DArc::AddAsPolygonMaxAngle(KC2DPointList& points, double maxAngleRad) co
   const double sweep = GetSweepAngle();
   double steps = 1.0;
   if (maxAngleRad > 0.0 && std::isfinite(maxAngleRad) && std::isfinite(sweep)) {
-    steps = std::min(std::max(std::ceil(sweep / maxAngleRad), 1.0), kArcPolygonMaxSteps);
+    // The slack keeps a sweep that is a whole number of steps (90 degrees in 5 degree steps) from gaining
+    // an extra step through rounding.
+    steps =
+        std::min(std::max(std::ceil(sweep / maxAngleRad - kArcPolygonStepSlack), 1.0), kArcPolygonMaxSteps);
   }
   const int n = static_cast<int>(steps);
   points.push_back(m_start);

@@ -1,8 +1,14 @@
 // Loading files that are damaged, odd or not NC files at all: each gives a defined result, never a crash.
 #include <gtest/gtest.h>
 
+#if defined(_WIN32)
+#include <fcntl.h>
+#include <io.h>
+#include <share.h>
+#else
 #include <sys/stat.h>
 #include <unistd.h>
+#endif
 
 #include <cstdio>
 #include <random>
@@ -194,6 +200,17 @@ TEST(KccNcFileBadInput, DirectoryIsNoFile) {
 }
 
 TEST(KccNcFileBadInput, UnreadableFileIsAnOpenError) {
+#if defined(_WIN32)
+  // Windows: a handle that shares neither reading nor writing keeps every other open of the file out.
+  TempDir dir;
+  const std::string path = dir.WriteFile("locked.nc", "O1\nM30\n");
+  const int lock = ::_sopen(path.c_str(), _O_RDONLY | _O_BINARY, _SH_DENYRW);
+  ASSERT_NE(lock, -1);
+  KCC_NcFile file;
+  EXPECT_EQ(file.LoadFromFile(path, false, false), nullptr);
+  EXPECT_TRUE(file.HasFileOpenError());
+  ::_close(lock);
+#else
   if (::geteuid() == 0)
     GTEST_SKIP() << "running as root: every file is readable";
   TempDir dir;
@@ -203,6 +220,7 @@ TEST(KccNcFileBadInput, UnreadableFileIsAnOpenError) {
   EXPECT_EQ(file.LoadFromFile(path, false, false), nullptr);
   EXPECT_TRUE(file.HasFileOpenError());
   ::chmod(path.c_str(), S_IRUSR | S_IWUSR);
+#endif
 }
 
 TEST(KccNcFileBadInput, LastLineWithoutLineEndIsRead) {

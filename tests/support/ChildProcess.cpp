@@ -111,6 +111,128 @@ ChildResult RunChild(const std::vector<std::string>& argv, double timeoutSeconds
   return result;
 }
 
+#elif defined(_WIN32)
+#include <windows.h>
+
+#include <thread>
+
+namespace {
+
+// Quotes one argument so that the C runtime of the started program splits the command line back into the
+// same argument (backslashes before a quote are doubled, quotes escaped).
+std::string QuoteArgument(const std::string& arg) {
+  if (!arg.empty() && arg.find_first_of(" \t\n\v\"") == std::string::npos)
+    return arg;
+  std::string quoted = "\"";
+  std::size_t backslashes = 0;
+  for (char c : arg) {
+    if (c == '\\') {
+      ++backslashes;
+      continue;
+    }
+    if (c == '"')
+      quoted.append(backslashes * 2 + 1, '\\');
+    else
+      quoted.append(backslashes, '\\');
+    quoted += c;
+    backslashes = 0;
+  }
+  quoted.append(backslashes * 2, '\\');
+  quoted += '"';
+  return quoted;
+}
+
+// Reads `pipe` into `sink` until every writer has closed it.
+void Drain(HANDLE pipe, std::string* sink) {
+  char buffer[65536];
+  DWORD n = 0;
+  while (ReadFile(pipe, buffer, sizeof buffer, &n, nullptr) && n > 0)
+    sink->append(buffer, n);
+}
+
+// A console program's text streams end each line with "\r\n" on Windows; the tests expect "\n" everywhere.
+std::string WithLfLineEnds(const std::string& text) {
+  std::string lf;
+  lf.reserve(text.size());
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n')
+      continue;
+    lf += text[i];
+  }
+  return lf;
+}
+
+}  // namespace
+
+bool CanRunChildren() {
+  return true;
+}
+
+ChildResult RunChild(const std::vector<std::string>& argv, double timeoutSeconds) {
+  ChildResult result;
+  if (argv.empty())
+    return result;
+  SECURITY_ATTRIBUTES inheritable{};
+  inheritable.nLength = sizeof inheritable;
+  inheritable.bInheritHandle = TRUE;
+  HANDLE outRead = nullptr, outWrite = nullptr, errRead = nullptr, errWrite = nullptr;
+  if (!CreatePipe(&outRead, &outWrite, &inheritable, 0))
+    return result;
+  if (!CreatePipe(&errRead, &errWrite, &inheritable, 0)) {
+    CloseHandle(outRead);
+    CloseHandle(outWrite);
+    return result;
+  }
+  // Only the writing ends go to the child; its input is the null device, so it can never wait for a key.
+  SetHandleInformation(outRead, HANDLE_FLAG_INHERIT, 0);
+  SetHandleInformation(errRead, HANDLE_FLAG_INHERIT, 0);
+  const HANDLE nul = CreateFileA("NUL", GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, &inheritable,
+                                 OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+
+  STARTUPINFOA startup{};
+  startup.cb = sizeof startup;
+  startup.dwFlags = STARTF_USESTDHANDLES;
+  startup.hStdInput = nul;
+  startup.hStdOutput = outWrite;
+  startup.hStdError = errWrite;
+  std::string commandLine;
+  for (const std::string& a : argv)
+    commandLine += (commandLine.empty() ? "" : " ") + QuoteArgument(a);
+  PROCESS_INFORMATION process{};
+  const BOOL started = CreateProcessA(argv[0].c_str(), commandLine.data(), nullptr, nullptr, TRUE,
+                                      CREATE_NO_WINDOW, nullptr, nullptr, &startup, &process);
+  CloseHandle(outWrite);
+  CloseHandle(errWrite);
+  if (nul != INVALID_HANDLE_VALUE)
+    CloseHandle(nul);
+  if (!started) {
+    CloseHandle(outRead);
+    CloseHandle(errRead);
+    return result;
+  }
+
+  std::thread outReader(Drain, outRead, &result.out);
+  std::thread errReader(Drain, errRead, &result.err);
+  const DWORD waitMs = static_cast<DWORD>(timeoutSeconds * 1000);
+  if (WaitForSingleObject(process.hProcess, waitMs) == WAIT_TIMEOUT) {
+    result.timedOut = true;
+    TerminateProcess(process.hProcess, 1);
+    WaitForSingleObject(process.hProcess, INFINITE);
+  }
+  outReader.join();
+  errReader.join();
+  DWORD code = 0;
+  if (!result.timedOut && GetExitCodeProcess(process.hProcess, &code))
+    result.exitCode = static_cast<int>(code);
+  CloseHandle(process.hThread);
+  CloseHandle(process.hProcess);
+  CloseHandle(outRead);
+  CloseHandle(errRead);
+  result.out = WithLfLineEnds(result.out);
+  result.err = WithLfLineEnds(result.err);
+  return result;
+}
+
 #else
 
 bool CanRunChildren() {

@@ -21,7 +21,8 @@ struct ChildResult {
 };
 
 /// Run argv[0] with the arguments argv[1..] and wait at most `timeoutSeconds` for it to end.
-/// Off POSIX systems the result has exitCode -1 and err says that running programs is not supported.
+/// On Windows the "\r\n" line ends of the program's text output come back as "\n". On other systems without
+/// POSIX processes the result has exitCode -1 and err says that running programs is not supported.
 ChildResult RunChild(const std::vector<std::string>& argv, double timeoutSeconds = 30.0);
 
 /// True when RunChild can run programs on this system.

@@ -22,16 +22,55 @@
 #include "ncappkit/foundation/KCStringList.h"
 #include "ncappkit/foundation/KCUnitMan.h"
 // foundation: messages
+#include "ncappkit/foundation/KCC_MessageBox.h"
+#include "ncappkit/foundation/KCC_MessageReporter.h"
+#include "ncappkit/foundation/KCI_FrmMessageBox.h"
+#include "ncappkit/foundation/KCI_MessagesFile.h"
+#include "ncappkit/foundation/KCI_ProgressBar.h"
 
 // foundation: 2D elements
+#include "ncappkit/foundation/KC2DArea.h"
+#include "ncappkit/foundation/KC2DElement.h"
+#include "ncappkit/foundation/KC2DElmList.h"
+#include "ncappkit/foundation/KCGeometry.h"
+#include "ncappkit/foundation/KCVector.h"
 
 // nc
+#include "ncappkit/nc/CNcParameter.h"
+#include "ncappkit/nc/KCC_NcFile.h"
+#include "ncappkit/nc/KCC_NcFileProgram.h"
+#include "ncappkit/nc/KCC_NcFileProgramCreator.h"
+#include "ncappkit/nc/KCC_NcFileProgramList.h"
+#include "ncappkit/nc/KCC_NcFileProgramVisitor.h"
+#include "ncappkit/nc/KCC_NcProgramParametersCreator.h"
+#include "ncappkit/nc/KCC_ParseNc.h"
 
 // units
+#include "ncappkit/units/KCC_MmInch.h"
 
 // mathexpr
+#include "ncappkit/mathexpr/CExpressionItem.h"
+#include "ncappkit/mathexpr/KCC_MathExpression.h"
 
 // config
+#include "ncappkit/config/KCC_AppName.h"
+#include "ncappkit/config/KCC_CfgApplication.h"
+#include "ncappkit/config/KCC_CfgInitSection.h"
+#include "ncappkit/config/KCC_CfgObject.h"
 
 // geometry
+#include "ncappkit/geometry/CMath2D.h"
+#include "ncappkit/geometry/CMathAuxShapes.h"
+#include "ncappkit/geometry/KCI_AuxCircle.h"
+#include "ncappkit/geometry/KCI_AuxHorLine.h"
+#include "ncappkit/geometry/KCI_AuxLine.h"
+#include "ncappkit/geometry/KCI_AuxVerLine.h"
+#include "ncappkit/geometry/KCI_d2DArc.h"
+#include "ncappkit/geometry/KCI_d2DHorLine.h"
+#include "ncappkit/geometry/KCI_d2DLine.h"
+#include "ncappkit/geometry/KCI_d2DPoint.h"
+#include "ncappkit/geometry/KCI_d2DVerLine.h"
+#include "ncappkit/geometry/KCI_i2DArc.h"
+#include "ncappkit/geometry/KCI_i2DLine.h"
+#include "ncappkit/geometry/KCI_i2DPoint.h"
 

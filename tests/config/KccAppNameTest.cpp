@@ -1,11 +1,14 @@
 // The application's display name.
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <iostream>
 #include <string>
 
 #include "ncappkit/config/KCC_AppName.h"
 #include "ncappkit/foundation/KCFileMan.h"
 #include "ncappkit/foundation/KCPlatform.h"
+#include "support/ChildProcess.h"
 #include "support/TempDir.h"
 
 TEST(KccAppName, RunningProgramGivesBaseNameAndVersion) {
@@ -66,4 +69,33 @@ TEST(KccAppName, OverlongPathFailsAndLeavesTheName) {
   ASSERT_EQ(path.GetLength(), 260);
   EXPECT_FALSE(KCC_AppName::MakeAppName(path, name));
   EXPECT_EQ(name, "before");
+}
+
+// Run only inside a renamed copy of this program (see the next test): prints the display name it gets.
+TEST(KccAppName, DISABLED_PrintsTheDisplayNameOfThisProgram) {
+  KCString name;
+  ASSERT_TRUE(KCC_AppName::PrepareAppName(name));
+  std::cout << "APPNAME=" << name << "\n";
+}
+
+TEST(KccAppName, RunningProgramWithALongNameKeepsThirtyCharacters) {
+  if (!CanRunChildren())
+    GTEST_SKIP() << "cannot run programs here";
+  const KCString self = KCC_GetExecutablePath();
+  ASSERT_FALSE(self.empty());
+  TempDir dir;
+  const std::string base = "abcdefghijklmnopqrstuvwxyz0123456789ABCD";
+  ASSERT_EQ(base.size(), 40u);
+  const std::string copy = dir.Path(base + ".exe");
+  std::filesystem::copy_file(self.str(), copy);
+  std::filesystem::permissions(copy, std::filesystem::perms::owner_all);
+  const ChildResult r = RunChild({copy, "--gtest_also_run_disabled_tests",
+                                  "--gtest_filter=KccAppName.DISABLED_PrintsTheDisplayNameOfThisProgram"});
+  ASSERT_EQ(r.exitCode, 0) << r.out << r.err;
+  const std::size_t at = r.out.find("APPNAME=");
+  ASSERT_NE(at, std::string::npos) << r.out;
+  const std::string name = r.out.substr(at + 8, r.out.find('\n', at) - at - 8);
+  const std::string suffix = " V" + KCFileMan::GetFullFileVersion(copy, false).str();
+  EXPECT_EQ(name.size(), 30u);
+  EXPECT_EQ(name, base.substr(0, 30 - suffix.size()) + suffix);
 }

@@ -100,12 +100,8 @@ const char* const kRectangleKeys[] = {"MinX", "MinY", "MaxX", "MaxY"};
 
 KC2DElementVisitor::~KC2DElementVisitor() = default;
 
-KC2DElement::~KC2DElement() = default;
-
 // ---------------------------------------------------------------------------------------------------------
 // KC2DPoint
-
-KC2DPoint::~KC2DPoint() = default;
 
 double KC2DPoint::DistanceTo(const KC2DPoint& other) const noexcept {
   const double dx = other.m_x - m_x;
@@ -182,8 +178,6 @@ KC2DPoint& KC2DPoint::operator-=(const KCVector& v) noexcept {
 
 // ---------------------------------------------------------------------------------------------------------
 // KC2DLine
-
-KC2DLine::~KC2DLine() = default;
 
 double KC2DLine::SquareLen() const noexcept {
   const double dx = m_end.GetX() - m_start.GetX();
@@ -293,8 +287,6 @@ bool KC2DLine::Write(const KCString& name, KCParagraph* paragraph, int digits) c
 
 // ---------------------------------------------------------------------------------------------------------
 // KC2DArc
-
-KC2DArc::~KC2DArc() = default;
 
 double KC2DArc::Radius() const noexcept {
   return m_center.DistanceTo(m_start);
@@ -519,8 +511,6 @@ KC2DRectangle::KC2DRectangle(double x1, double y1, double x2, double y2) noexcep
 KC2DRectangle::KC2DRectangle(const KC2DPoint& a, const KC2DPoint& b) noexcept {
   SetCorners(a.GetX(), a.GetY(), b.GetX(), b.GetY());
 }
-
-KC2DRectangle::~KC2DRectangle() = default;
 
 void KC2DRectangle::SetCorners(double x1, double y1, double x2, double y2) noexcept {
   m_minX = std::min(x1, x2);

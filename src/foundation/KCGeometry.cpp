@@ -37,34 +37,30 @@ bool KCGeometry::ProjectPointOnLine(KC2DPoint& result, const KC2DLine& line,
 }
 
 int KCGeometry::Point2DOnClosedLine(const KC2DLine& line, const KC2DPoint& point) noexcept {
+  // Everything is compared squared, so no root is taken: this runs inside every point–segment distance.
+  constexpr double kTolerance2 = kOnLineTolerance * kOnLineTolerance;
   const KC2DPoint s = line.GetStartPoint();
   const KC2DPoint e = line.GetEndPoint();
-  if (s.DistanceTo(point) <= kOnLineTolerance) {
+  const double px = point.GetX() - s.GetX();
+  const double py = point.GetY() - s.GetY();
+  if (px * px + py * py <= kTolerance2) {
     return kAtStart;
   }
-  if (e.DistanceTo(point) <= kOnLineTolerance) {
+  const double qx = point.GetX() - e.GetX();
+  const double qy = point.GetY() - e.GetY();
+  if (qx * qx + qy * qy <= kTolerance2) {
     return kAtEnd;
   }
   const double dx = e.GetX() - s.GetX();
   const double dy = e.GetY() - s.GetY();
-  const double len = std::sqrt(dx * dx + dy * dy);
-  if (!(len > 0.0)) {
+  const double len2 = dx * dx + dy * dy;
+  if (!(len2 > 0.0)) {
     return kOff;  // zero length (or NaN): only its start point lies on it, handled above
   }
-  const double px = point.GetX() - s.GetX();
-  const double py = point.GetY() - s.GetY();
-  const double across = std::fabs(dx * py - dy * px) / len;  // distance from the infinite line
-  const double along = (dx * px + dy * py) / len;            // position along the line from the start
-  if (across <= kOnLineTolerance && along >= 0.0 && along <= len) {
+  const double cross = dx * py - dy * px;  // distance from the infinite line times the length
+  const double dot = dx * px + dy * py;    // position along the line times the length
+  if (cross * cross <= kTolerance2 * len2 && dot >= 0.0 && dot <= len2) {
     return kInside;
   }
   return kOff;
 }
-
-// Definitions of the class's constants. With them the Windows DLL exports the constants, so that a program
-// that takes one by reference or address links against the DLL's copy.
-constexpr int KCGeometry::kOff;
-constexpr int KCGeometry::kAtStart;
-constexpr int KCGeometry::kAtEnd;
-constexpr int KCGeometry::kInside;
-constexpr double KCGeometry::kOnLineTolerance;

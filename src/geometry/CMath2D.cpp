@@ -457,9 +457,14 @@ void CMath2D::GetRectangle(const KCI_d2DLine& line, KC2DArea& area) {
 double CMath2D::DistancePoint2Line(const KCI_d2DLine& line, const KCI_d2DPoint& p, bool segment) {
   const KC2DLine kline(line.GetStartX(), line.GetStartY(), line.GetEndX(), line.GetEndY());
   const KC2DPoint kp(p.GetX(), p.GetY());
-  KC2DPoint foot;
-  KCGeometry::ProjectPointOnLine(foot, kline, kp);
-  if (!segment || KCGeometry::Point2DOnClosedLine(kline, foot) > 0) {
+  // The foot only decides between the perpendicular and the nearer end, so the infinite line skips it.
+  bool perpendicular = true;
+  if (segment) {
+    KC2DPoint foot;
+    KCGeometry::ProjectPointOnLine(foot, kline, kp);
+    perpendicular = KCGeometry::Point2DOnClosedLine(kline, foot) > 0;
+  }
+  if (perpendicular) {
     double distance = 0.0;
     KCGeometry::GetDistanceLinePoint(kline, kp, distance);
     return distance;

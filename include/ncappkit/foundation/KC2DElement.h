@@ -62,7 +62,7 @@ class NCAPPKIT_EXPORT KC2DElement {
   KC2DElement() = default;
   KC2DElement(const KC2DElement&) = default;
   KC2DElement& operator=(const KC2DElement&) = default;
-  virtual ~KC2DElement();
+  virtual ~KC2DElement() = default;
 
   /// A new copy of this element, owned by the caller.
   virtual KC2DElement* Clone() const = 0;
@@ -125,7 +125,7 @@ class NCAPPKIT_EXPORT KC2DPoint : public KC2DElement {
   KC2DPoint(double x, double y) noexcept : m_x(x), m_y(y) {}
   KC2DPoint(const KC2DPoint&) = default;
   KC2DPoint& operator=(const KC2DPoint&) = default;
-  ~KC2DPoint() override;
+  ~KC2DPoint() override = default;
 
   /// The x coordinate.
   double GetX() const noexcept { return m_x; }
@@ -214,7 +214,7 @@ class NCAPPKIT_EXPORT KC2DLine : public KC2DElement {
   KC2DLine(double x1, double y1, double x2, double y2) noexcept : m_start(x1, y1), m_end(x2, y2) {}
   KC2DLine(const KC2DLine&) = default;
   KC2DLine& operator=(const KC2DLine&) = default;
-  ~KC2DLine() override;
+  ~KC2DLine() override = default;
 
   /// Set the start point.
   void SetStartPoint(const KC2DPoint& p) noexcept { m_start = p; }
@@ -266,7 +266,7 @@ class NCAPPKIT_EXPORT KC2DArc : public KC2DElement {
       : m_start(start), m_end(end), m_center(center), m_ccw(ccw) {}
   KC2DArc(const KC2DArc&) = default;
   KC2DArc& operator=(const KC2DArc&) = default;
-  ~KC2DArc() override;
+  ~KC2DArc() override = default;
 
   /// The centre.
   KC2DPoint GetCenterPoint() const noexcept { return m_center; }
@@ -361,7 +361,7 @@ class NCAPPKIT_EXPORT KC2DRectangle : public KC2DElement {
   KC2DRectangle(const KC2DPoint& a, const KC2DPoint& b) noexcept;
   KC2DRectangle(const KC2DRectangle&) = default;
   KC2DRectangle& operator=(const KC2DRectangle&) = default;
-  ~KC2DRectangle() override;
+  ~KC2DRectangle() override = default;
 
   /// Width times height.
   double GetArea() const noexcept { return GetWidth() * GetHeight(); }

@@ -1,6 +1,7 @@
 // Rounding and formatting of the five quantities in the referenced unit.
 #include <gtest/gtest.h>
 
+#include <clocale>
 #include <cmath>
 #include <limits>
 #include <string>
@@ -192,4 +193,20 @@ TEST(KccMmInchFormat, FollowsALaterChangeOfTheSelection) {
   EXPECT_EQ(format.FormatWeight(12.9), "12");
   unit.SetMmMode();
   EXPECT_EQ(format.FormatWeight(12.9), "12.9");
+}
+
+TEST(KccMmInchFormat, TextDoesNotDependOnTheLocale) {
+  const std::string old = std::setlocale(LC_ALL, nullptr);
+  if (std::setlocale(LC_ALL, "de_DE.UTF-8") == nullptr && std::setlocale(LC_ALL, "de_DE") == nullptr)
+    GTEST_SKIP() << "de_DE locale not installed";
+  const KCC_MmInch undef;
+  const KCC_MmInch mm(KCC_MmInch::eMmInchMm);
+  const std::string undefText = KCC_MmInch_Format(undef).FormatAxisPos(1.5).str();
+  const std::string mmText = KCC_MmInch_Format(mm).FormatAxisPos(1.5).str();
+  const double read =
+      KCC_MmInch::ConvertStringWithUnitAsDouble("12.7MM", KCC_MmInch(KCC_MmInch::eMmInchInch));
+  std::setlocale(LC_ALL, old.c_str());
+  EXPECT_EQ(undefText, "1.500000");
+  EXPECT_EQ(mmText, "1.500");
+  EXPECT_DOUBLE_EQ(read, 0.5);
 }

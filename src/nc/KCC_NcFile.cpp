@@ -441,6 +441,12 @@ bool KCC_NcFile::SaveToFile(const KCString& fileName) {
     ok = false;
 
   std::error_code ec;
+  // The new file keeps the permissions of the one it replaces.
+  const std::filesystem::file_status old = std::filesystem::status(target, ec);
+  if (ok && !ec && std::filesystem::is_regular_file(old)) {
+    std::filesystem::permissions(temp, old.permissions(), ec);
+  }
+  ec.clear();
   if (ok)
     std::filesystem::rename(temp, target, ec);
   if (!ok || ec) {

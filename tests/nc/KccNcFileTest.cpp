@@ -1,6 +1,7 @@
 // Splitting NC text into main programs and sub-programs, loading files and saving them.
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -396,4 +397,18 @@ TEST(KccNcFile, SaveLeavesNoTemporaryFileBehind) {
   file.LoadFromStringList(Lines({"O1", "M30"}), false, false);
   ASSERT_TRUE(file.SaveToFile(dir.Path("o.nc")));
   EXPECT_FALSE(dir.Exists("o.nc.~save0"));
+}
+
+TEST(KccNcFile, SaveKeepsThePermissionsOfTheReplacedFile) {
+  TempDir dir;
+  const std::string path = dir.WriteFile("o.nc", "old");
+  std::filesystem::permissions(path, std::filesystem::perms::owner_read |
+                                         std::filesystem::perms::owner_write |
+                                         std::filesystem::perms::group_read);
+  KCC_NcFile file;
+  file.LoadFromStringList(Lines({"O1", "M30"}), false, false);
+  ASSERT_TRUE(file.SaveToFile(path));
+  EXPECT_EQ(std::filesystem::status(path).permissions(), std::filesystem::perms::owner_read |
+                                                             std::filesystem::perms::owner_write |
+                                                             std::filesystem::perms::group_read);
 }

@@ -33,7 +33,9 @@ TEST(KccAppName, LongBaseNameGivesWayToTheVersion) {
   TempDir dir;
   const std::string base = "abcdefghijklmnopqrstuvwxyz0123456789ABCD";
   ASSERT_EQ(base.size(), 40u);
-  const std::string exe = dir.WriteFile(base + ".exe", "");
+  // A copy of this program, so that the file has a version wherever versions come from the file itself.
+  const std::string exe = dir.Path(base + ".exe");
+  std::filesystem::copy_file(KCC_GetExecutablePath().str(), exe);
   const KCString suffix = KCString(" V") + KCFileMan::GetFullFileVersion(exe, false);
   ASSERT_GT(suffix.GetLength(), 2);
   KCString name;
@@ -89,6 +91,13 @@ TEST(KccAppName, RunningProgramWithALongNameKeepsThirtyCharacters) {
   const std::string copy = dir.Path(base + ".exe");
   std::filesystem::copy_file(self.str(), copy);
   std::filesystem::permissions(copy, std::filesystem::perms::owner_all);
+#if defined(_WIN32)
+  // A Windows program finds its DLLs beside itself: the copy gets the ones the original has.
+  for (const auto& entry : std::filesystem::directory_iterator(KCFileMan::ExtractFilePath(self).str())) {
+    if (entry.path().extension() == ".dll")
+      std::filesystem::copy_file(entry.path(), std::filesystem::path(dir.Path()) / entry.path().filename());
+  }
+#endif
   const ChildResult r = RunChild({copy, "--gtest_also_run_disabled_tests",
                                   "--gtest_filter=KccAppName.DISABLED_PrintsTheDisplayNameOfThisProgram"});
   ASSERT_EQ(r.exitCode, 0) << r.out << r.err;

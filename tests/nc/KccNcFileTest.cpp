@@ -412,3 +412,15 @@ TEST(KccNcFile, SaveKeepsThePermissionsOfTheReplacedFile) {
                                                              std::filesystem::perms::owner_write |
                                                              std::filesystem::perms::group_read);
 }
+
+TEST(KccNcFile, CopySharesTheProgramsWithTheOriginal) {
+  KCC_NcFile file;
+  file.LoadFromStringList(Lines({"O1", "M30", "O2", "M99"}), false, false);
+  KCC_NcFile copy(file);
+  EXPECT_EQ(copy.GetMainProgList().GetProgram(0), file.GetMainProgList().GetProgram(0));
+  EXPECT_EQ(copy.GetSubProgList().GetProgram(0), file.GetSubProgList().GetProgram(0));
+  EXPECT_TRUE(copy.HasNoError());
+  // Only one of the two may delete the shared programs.
+  copy.GetMainProgList().Detach();
+  copy.GetSubProgList().Detach();
+}

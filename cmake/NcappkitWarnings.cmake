@@ -7,7 +7,7 @@ function(ncappkit_set_warnings target)
     endif()
   else()
     target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wold-style-cast
-      -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wnull-dereference)
+      -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align)
     if(NCAPPKIT_WARNINGS_AS_ERRORS)
       target_compile_options(${target} PRIVATE -Werror)
     endif()

@@ -73,4 +73,3 @@
 #include "ncappkit/geometry/KCI_i2DArc.h"
 #include "ncappkit/geometry/KCI_i2DLine.h"
 #include "ncappkit/geometry/KCI_i2DPoint.h"
-

@@ -32,5 +32,9 @@ struct NckitRegistrar {
   explicit NckitRegistrar(const NckitCommand& command) { NckitCommands().push_back(command); }
 };
 
-#define NCKIT_COMMAND(name, summary, fn) \
-  static const NckitRegistrar nckitRegistrar_##name { NckitCommand{#name, summary, fn} }
+#define NCKIT_COMMAND(name, summary, fn)              \
+  static const NckitRegistrar nckitRegistrar_##name { \
+    NckitCommand {                                    \
+#name, summary, fn                              \
+    }                                                 \
+  }

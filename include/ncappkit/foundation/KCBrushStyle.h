@@ -27,8 +27,12 @@ class NCAPPKIT_EXPORT KCBrushStyle {
   /// Style named by `text` (case-insensitive); an unknown text gives a solid brush.
   static KCBrushStyle FromString(const KCString& text);
 
-  friend bool operator==(const KCBrushStyle& a, const KCBrushStyle& b) noexcept { return a.m_kind == b.m_kind; }
-  friend bool operator!=(const KCBrushStyle& a, const KCBrushStyle& b) noexcept { return a.m_kind != b.m_kind; }
+  friend bool operator==(const KCBrushStyle& a, const KCBrushStyle& b) noexcept {
+    return a.m_kind == b.m_kind;
+  }
+  friend bool operator!=(const KCBrushStyle& a, const KCBrushStyle& b) noexcept {
+    return a.m_kind != b.m_kind;
+  }
 
  private:
   Kind m_kind = Kind::Solid;

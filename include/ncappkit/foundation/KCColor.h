@@ -48,11 +48,11 @@ class NCAPPKIT_EXPORT KCColor {
   int m_alpha = 255;
 };
 
-#define NCAPPKIT_NAMED_COLOR(Name)                 \
-  class NCAPPKIT_EXPORT Name : public KCColor {     \
-   public:                                          \
-    /** The named colour with the given alpha. */   \
-    explicit Name(int alpha = 255);                 \
+#define NCAPPKIT_NAMED_COLOR(Name)                \
+  class NCAPPKIT_EXPORT Name : public KCColor {   \
+   public:                                        \
+    /** The named colour with the given alpha. */ \
+    explicit Name(int alpha = 255);               \
   };
 
 NCAPPKIT_NAMED_COLOR(KCColorAqua)         // 0, 255, 255

@@ -77,8 +77,12 @@ class NCAPPKIT_EXPORT KCFontStyles {
   /// Set named by a text of ToString's form (case-insensitive, blanks ignored); unknown names are skipped.
   static KCFontStyles FromString(const KCString& text);
 
-  friend bool operator==(const KCFontStyles& a, const KCFontStyles& b) noexcept { return a.m_bits == b.m_bits; }
-  friend bool operator!=(const KCFontStyles& a, const KCFontStyles& b) noexcept { return a.m_bits != b.m_bits; }
+  friend bool operator==(const KCFontStyles& a, const KCFontStyles& b) noexcept {
+    return a.m_bits == b.m_bits;
+  }
+  friend bool operator!=(const KCFontStyles& a, const KCFontStyles& b) noexcept {
+    return a.m_bits != b.m_bits;
+  }
 
  private:
   unsigned m_bits = 0;

@@ -27,13 +27,15 @@ class NCAPPKIT_EXPORT KCIniFile {
 
   /// The value of `key` in `section`; when the key is missing, `defaultValue`, written to the file first
   /// when `create` is true.
-  KCString ReadString(const KCString& section, const KCString& key, const KCString& defaultValue, bool create);
+  KCString ReadString(const KCString& section, const KCString& key, const KCString& defaultValue,
+                      bool create);
   /// The integer value of `key` (its leading integer); the default when the key is missing or holds no
   /// integer. A missing key is created with the default when `create` is true.
   int ReadInteger(const KCString& section, const KCString& key, int defaultValue, bool create);
   /// The real value of `key`; the default when missing or not a number. A missing key is created with the
   /// default written with `digits` decimals when `create` is true (digits < 0: shortest exact text).
-  double ReadDouble(const KCString& section, const KCString& key, double defaultValue, bool create, int digits);
+  double ReadDouble(const KCString& section, const KCString& key, double defaultValue, bool create,
+                    int digits);
 
   /// Write one key (creating section and key as needed). True on success.
   bool WriteString(const KCString& section, const KCString& key, const KCString& value);

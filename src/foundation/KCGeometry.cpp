@@ -64,3 +64,11 @@ int KCGeometry::Point2DOnClosedLine(const KC2DLine& line, const KC2DPoint& point
   }
   return kOff;
 }
+
+// Definitions of the class's constants. With them the Windows DLL exports the constants, so that a program
+// that takes one by reference or address (as EXPECT_EQ does) links against the DLL's copy.
+constexpr int KCGeometry::kOff;
+constexpr int KCGeometry::kAtStart;
+constexpr int KCGeometry::kAtEnd;
+constexpr int KCGeometry::kInside;
+constexpr double KCGeometry::kOnLineTolerance;

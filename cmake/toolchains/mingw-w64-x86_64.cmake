@@ -64,7 +64,9 @@ find_program(NCAPPKIT_WINE_PROGRAM NAMES wine wine64 NO_CMAKE_FIND_ROOT_PATH)
 find_program(NCAPPKIT_ENV_PROGRAM NAMES env NO_CMAKE_FIND_ROOT_PATH)
 set(NCAPPKIT_WINEPREFIX "" CACHE PATH "wine prefix for running the tests (default: $HOME/.wine)")
 if(NCAPPKIT_WINE_PROGRAM AND NCAPPKIT_ENV_PROGRAM)
-  set(_ncappkit_wine_env WINEDEBUG=-all "WINEDLLOVERRIDES=mscoree,mshtml=")
+  # "-u DISPLAY": wine never sees a display, so a test that reached a real window would fail instead of
+  # waiting for someone to close it.
+  set(_ncappkit_wine_env -u DISPLAY -u WAYLAND_DISPLAY WINEDEBUG=-all "WINEDLLOVERRIDES=mscoree,mshtml=")
   if(NCAPPKIT_WINEPREFIX)
     list(APPEND _ncappkit_wine_env WINEPREFIX=${NCAPPKIT_WINEPREFIX})
   endif()

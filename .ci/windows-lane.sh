@@ -1,0 +1,174 @@
+#!/usr/bin/env bash
+# Windows lane: cross-builds the library, its tests and nckit.exe with mingw-w64, runs every test under wine,
+# installs the build and links a consumer against the installed package, and runs `nckit.exe info` on the
+# bundled sample. With --linux-build DIR the nckit output is compared with DIR/bin/nckit's.
+#
+#   .ci/windows-lane.sh [--linux-build build/dev] [--sample samples/<file>]
+#
+# Installs the cross compiler, wine and the GoogleTest sources with apt-get when they are missing. Exits
+# non-zero when the build, any test, the consumer or the nckit comparison fails.
+set -euo pipefail
+
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+root=$PWD
+lane_start=$(date +%s)
+
+linux_build=""
+sample=""
+while [[ $# -gt 0 ]]; do
+  case "$1" in
+    --linux-build) linux_build=$2; shift 2 ;;
+    --sample) sample=$2; shift 2 ;;
+    -h | --help) sed -n '2,9p' "$0"; exit 0 ;;
+    *) echo "windows-lane: unknown argument '$1'" >&2; exit 2 ;;
+  esac
+done
+
+step() { printf '\n== windows lane: %s (%ds)\n' "$1" $(($(date +%s) - lane_start)); }
+
+# --- tools ------------------------------------------------------------------------------------------------
+step "tools"
+missing=()
+command -v x86_64-w64-mingw32-g++-posix >/dev/null || missing+=(g++-mingw-w64-x86-64-posix)
+command -v x86_64-w64-mingw32-windres >/dev/null || missing+=(binutils-mingw-w64-x86-64)
+command -v wine >/dev/null || missing+=(wine)
+command -v wine64 >/dev/null || [[ -x /usr/lib/wine/wine64 ]] || missing+=(wine64)
+[[ -f /usr/src/googletest/CMakeLists.txt ]] || missing+=(googletest)
+if [[ ${#missing[@]} -gt 0 ]]; then
+  echo "installing: ${missing[*]}"
+  sudo=()
+  [[ $(id -u) -eq 0 ]] || sudo=(sudo)
+  "${sudo[@]}" apt-get update -qq
+  DEBIAN_FRONTEND=noninteractive "${sudo[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}"
+fi
+x86_64-w64-mingw32-g++-posix --version | head -n 1
+wine --version 2>/dev/null
+
+# --- wine -------------------------------------------------------------------------------------------------
+# The same settings the toolchain's test runner uses: a private prefix, no debug chatter, no Mono/Gecko
+# installers, and no display, so that nothing can ever open a window.
+export WINEPREFIX="$root/build/windows-wine/prefix"
+export WINEDEBUG=-all
+export WINEDLLOVERRIDES="mscoree,mshtml="
+unset DISPLAY WAYLAND_DISPLAY
+mkdir -p "$(dirname "$WINEPREFIX")"
+if [[ ! -f "$WINEPREFIX/system.reg" ]]; then
+  step "creating the wine prefix"
+  wineboot --init >/dev/null 2>&1 || true
+  wineserver --wait
+fi
+# One wine server for the whole lane instead of one per test program; stopped on every way out.
+# (A server that is already running for this prefix stays in charge.)
+wineserver --persistent 2>/dev/null || true
+trap 'wineserver --kill >/dev/null 2>&1 || true' EXIT
+
+# --- build ------------------------------------------------------------------------------------------------
+step "configure"
+cmake --preset windows >/dev/null
+step "build"
+cmake --build --preset windows --parallel 2
+
+# --- tests ------------------------------------------------------------------------------------------------
+# ctest lists each test program's tests by running it under wine with a short time limit; starting wine
+# once beforehand keeps that first listing well inside it.
+bin="$root/build/windows/bin"
+first_test=$(find "$bin" -maxdepth 1 -name 'ncappkit_*_tests.exe' | sort | head -n 1)
+if [[ -n "$first_test" ]]; then
+  wine "$first_test" --gtest_list_tests >/dev/null 2>&1 || true
+fi
+
+step "tests under wine"
+junit="$root/build/windows/ctest-junit.xml"
+tests_ok=1
+ctest --preset windows --output-junit "$junit" || tests_ok=0
+
+skipped=$(sed -n 's/^[[:space:]]*skipped="\([0-9]*\)".*/\1/p' "$junit" | head -n 1)
+total=$(sed -n 's/^[[:space:]]*tests="\([0-9]*\)".*/\1/p' "$junit" | head -n 1)
+echo "windows lane: ${skipped:-?} of ${total:-?} tests skipped"
+grep -o '<testcase name="[^"]*"[^>]*status="notrun"' "$junit" | sed 's/<testcase name="\([^"]*\)".*/  skipped: \1/' || true
+
+# --- install tree and consumer ------------------------------------------------------------------------------
+step "install and consumer"
+install_dir="$root/build/windows-install"
+consumer_src="$root/build/windows-consumer/src"
+consumer_build="$root/build/windows-consumer/build"
+rm -rf "$install_dir" "$root/build/windows-consumer"
+cmake --install "$root/build/windows" --prefix "$install_dir" >/dev/null
+mkdir -p "$consumer_src"
+cat >"$consumer_src/CMakeLists.txt" <<'EOF'
+cmake_minimum_required(VERSION 3.25)
+project(ncappkit_consumer LANGUAGES CXX)
+find_package(ncappkit CONFIG REQUIRED)
+add_executable(consumer main.cpp)
+target_link_libraries(consumer PRIVATE ncappkit::ncappkit)
+EOF
+cat >"$consumer_src/main.cpp" <<'EOF'
+// Uses the installed library through its public headers and import library.
+#include <iostream>
+
+#include "ncappkit/foundation/KCFileMan.h"
+#include "ncappkit/foundation/KCPlatform.h"
+#include "ncappkit/version.h"
+
+int main() {
+  const KCString path = KCC_GetExecutablePath();
+  const KCString name = KCFileMan::ExtractFileNameNoExt(path);
+  std::cout << name.str() << ' ' << NCAPPKIT_VERSION_STRING << '\n';
+  return name == "consumer" ? 0 : 1;
+}
+EOF
+consumer_ok=1
+if cmake -S "$consumer_src" -B "$consumer_build" -G Ninja \
+     -DCMAKE_TOOLCHAIN_FILE="$root/cmake/toolchains/mingw-w64-x86_64.cmake" \
+     -Dncappkit_DIR="$install_dir/lib/cmake/ncappkit" >/dev/null &&
+   cmake --build "$consumer_build" >/dev/null; then
+  # The DLL stays in the install tree; wine finds it through WINEPATH as Windows would through PATH.
+  if ! WINEPATH="$(winepath -w "$install_dir/bin")" wine "$consumer_build/consumer.exe"; then
+    echo "windows lane: the consumer of the installed package failed to run" >&2
+    consumer_ok=0
+  fi
+else
+  echo "windows lane: the consumer of the installed package failed to build" >&2
+  consumer_ok=0
+fi
+
+# --- nckit info on the bundled sample -----------------------------------------------------------------------
+step "nckit.exe info"
+nckit_ok=1
+if [[ -z "$sample" ]]; then
+  sample=$(find samples -maxdepth 1 -type f \( -iname '*.nc' -o -iname '*.mpf' -o -iname '*.spf' \) | sort | head -n 1)
+fi
+if [[ -z "$sample" || ! -f "$sample" ]]; then
+  echo "windows lane: no bundled sample NC file under samples/" >&2
+  nckit_ok=0
+else
+  win_out="$root/build/windows/nckit-info.txt"
+  win_rc=0
+  wine "$bin/nckit.exe" info "$sample" >"$win_out.raw" 2>&1 || win_rc=$?
+  tr -d '\r' <"$win_out.raw" >"$win_out"
+  cat "$win_out"
+  echo "(nckit.exe info $sample exited with $win_rc)"
+  if [[ $win_rc -ne 0 ]]; then
+    nckit_ok=0
+  fi
+  if [[ -n "$linux_build" ]]; then
+    linux_out="$root/build/windows/nckit-info-linux.txt"
+    linux_rc=0
+    "$linux_build/bin/nckit" info "$sample" >"$linux_out" 2>&1 || linux_rc=$?
+    if [[ $linux_rc -eq $win_rc ]] && diff -u "$linux_out" "$win_out"; then
+      echo "windows lane: nckit info prints the same table as the Linux build"
+    else
+      echo "windows lane: nckit info differs from the Linux build (exit $linux_rc on Linux, $win_rc here)" >&2
+      nckit_ok=0
+    fi
+  fi
+fi
+
+# --- result -----------------------------------------------------------------------------------------------
+elapsed=$(($(date +%s) - lane_start))
+echo
+echo "windows lane: tests $([[ $tests_ok -eq 1 ]] && echo passed || echo FAILED)," \
+  "skipped ${skipped:-?} of ${total:-?}," \
+  "consumer $([[ $consumer_ok -eq 1 ]] && echo ok || echo FAILED)," \
+  "nckit info $([[ $nckit_ok -eq 1 ]] && echo ok || echo FAILED), ${elapsed}s"
+[[ $tests_ok -eq 1 && $consumer_ok -eq 1 && $nckit_ok -eq 1 ]]

@@ -2,7 +2,6 @@
 #include "ncappkit/nc/KCC_NcFile.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
@@ -13,6 +12,16 @@
 #include <vector>
 
 #include "ncappkit/foundation/KCFileMan.h"
+
+#if defined(_WIN32)
+#ifndef WIN32_LEAN_AND_MEAN
+#define WIN32_LEAN_AND_MEAN
+#endif
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
+#include <windows.h>
+#endif
 
 namespace {
 
@@ -214,6 +223,17 @@ class BufferedLineReader {
   bool m_failed = false;
 };
 
+// Move `from` over `to`, replacing an existing file in one step.
+bool MoveOverTarget(const std::string& from, const std::string& to) {
+#if defined(_WIN32)
+  return MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING) != 0;
+#else
+  std::error_code ec;
+  std::filesystem::rename(from, to, ec);
+  return !ec;
+#endif
+}
+
 struct FileCloser {
   void operator()(std::FILE* f) const {
     if (f != nullptr)
@@ -393,8 +413,11 @@ bool KCC_NcFile::SaveToFile(const KCString& fileName) {
   FilePtr out;
   for (int attempt = 0; attempt < 100 && !out; ++attempt) {
     temp = target + ".~save" + std::to_string(attempt);
-    out.reset(std::fopen(temp.c_str(), "wbx"));
-    if (!out && errno != EEXIST)
+    std::error_code existsError;
+    if (std::filesystem::exists(temp, existsError) || existsError)
+      continue;
+    out.reset(std::fopen(temp.c_str(), "wb"));
+    if (!out)
       return false;
   }
   if (!out)
@@ -447,9 +470,9 @@ bool KCC_NcFile::SaveToFile(const KCString& fileName) {
     std::filesystem::permissions(temp, old.permissions(), ec);
   }
   ec.clear();
-  if (ok)
-    std::filesystem::rename(temp, target, ec);
-  if (!ok || ec) {
+  if (ok && !MoveOverTarget(temp, target))
+    ok = false;
+  if (!ok) {
     std::filesystem::remove(temp, ec);
     return false;
   }

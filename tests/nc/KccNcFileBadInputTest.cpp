@@ -53,7 +53,7 @@ TEST(KccNcFileBadInput, ShortGarbageLinesGiveNoNcStructure) {
 
 TEST(KccNcFileBadInput, LineEndsAtItsFirstNulByte) {
   TempDir dir;
-  const std::string path = dir.WriteFile("nul.nc", std::string("O1\0hidden M30\nM30\n", 19));
+  const std::string path = dir.WriteFile("nul-byte.nc", std::string("O1\0hidden M30\nM30\n", 19));
   KCC_NcFile file;
   ASSERT_NE(file.LoadFromFile(path, false, false), nullptr);
   ASSERT_EQ(file.GetNumberOfMainPrograms(), 1);

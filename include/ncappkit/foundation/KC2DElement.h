@@ -143,7 +143,9 @@ class NCAPPKIT_EXPORT KC2DPoint : public KC2DElement {
   /// Distance to `other`.
   double DistanceTo(const KC2DPoint& other) const noexcept;
 
+  /// A new copy of this element, owned by the caller.
   KC2DElement* Clone() const override;
+  /// visitor.Visit(*this).
   bool Accept(KC2DElementVisitor& visitor) override;
   /// The point itself.
   KC2DPoint GetStartPoint() const override { return *this; }
@@ -151,26 +153,39 @@ class NCAPPKIT_EXPORT KC2DPoint : public KC2DElement {
   KC2DPoint GetEndPoint() const override { return *this; }
   /// The point itself, whatever t.
   KC2DPoint GetParametricPoint(double t) const override;
+  /// Smallest x of the bounding box.
   double GetMinX() const override { return m_x; }
+  /// Smallest y of the bounding box.
   double GetMinY() const override { return m_y; }
+  /// Largest x of the bounding box.
   double GetMaxX() const override { return m_x; }
+  /// Largest y of the bounding box.
   double GetMaxY() const override { return m_y; }
   /// 0.
   double Len() const override { return 0.0; }
+  /// Same kind with every coordinate within tolerance.
   bool IsAlmostEq(const KC2DElement& other, double tolerance) const override;
+  /// Mirror at the x axis.
   void MirrorX() override { m_y = -m_y; }
+  /// Mirror at the y axis.
   void MirrorY() override { m_x = -m_x; }
   /// Nothing to do: a point has no direction.
   void Reverse() override {}
+  /// Turn the axes counter-clockwise by angleRad about the origin (the element turns clockwise).
   void RotateAxis(double angleRad) override;
+  /// Scale about the origin.
   void Scale(double factor) override;
+  /// Scale x about the origin.
   void ScaleX(double factor) override { m_x *= factor; }
+  /// Scale y about the origin.
   void ScaleY(double factor) override { m_y *= factor; }
+  /// Move by (dx, dy).
   void Translate(double dx, double dy) override;
   /// Appends the point once.
   void AddAsPolygon(KC2DPointList& points) const override;
   /// Keys "X", "Y".
   bool Read(const KCString& name, KCParagraph* paragraph, int digits) override;
+  /// Write into the child section name; false for a null paragraph.
   bool Write(const KCString& name, KCParagraph* paragraph, int digits) const override;
 
   /// The point moved by the x and y components of `v`.
@@ -223,30 +238,48 @@ class NCAPPKIT_EXPORT KC2DLine : public KC2DElement {
   /// Squared length (no root).
   double SquareLen() const noexcept;
 
+  /// A new copy of this element, owned by the caller.
   KC2DElement* Clone() const override;
+  /// visitor.Visit(*this).
   bool Accept(KC2DElementVisitor& visitor) override;
+  /// The start point.
   KC2DPoint GetStartPoint() const override { return m_start; }
+  /// The end point.
   KC2DPoint GetEndPoint() const override { return m_end; }
   /// start + t * (end - start).
   KC2DPoint GetParametricPoint(double t) const override;
+  /// Smallest x of the bounding box.
   double GetMinX() const override;
+  /// Smallest y of the bounding box.
   double GetMinY() const override;
+  /// Largest x of the bounding box.
   double GetMaxX() const override;
+  /// Largest y of the bounding box.
   double GetMaxY() const override;
+  /// Length of the path.
   double Len() const override;
+  /// Same kind with every coordinate within tolerance.
   bool IsAlmostEq(const KC2DElement& other, double tolerance) const override;
+  /// Mirror at the x axis.
   void MirrorX() override;
+  /// Mirror at the y axis.
   void MirrorY() override;
   void Reverse() override;
+  /// Turn the axes counter-clockwise by angleRad about the origin (the element turns clockwise).
   void RotateAxis(double angleRad) override;
+  /// Scale about the origin.
   void Scale(double factor) override;
+  /// Scale x about the origin.
   void ScaleX(double factor) override;
+  /// Scale y about the origin.
   void ScaleY(double factor) override;
+  /// Move by (dx, dy).
   void Translate(double dx, double dy) override;
   /// Appends start and end.
   void AddAsPolygon(KC2DPointList& points) const override;
   /// Keys "StartX", "StartY", "EndX", "EndY".
   bool Read(const KCString& name, KCParagraph* paragraph, int digits) override;
+  /// Write into the child section name; false for a null paragraph.
   bool Write(const KCString& name, KCParagraph* paragraph, int digits) const override;
 
  private:
@@ -307,36 +340,50 @@ class NCAPPKIT_EXPORT KC2DArc : public KC2DElement {
   /// a step limit that is not a positive finite number, or a sweep that is not finite, gives start and end.
   void AddAsPolygonMaxAngle(KC2DPointList& points, double maxAngleRad) const;
 
+  /// A new copy of this element, owned by the caller.
   KC2DElement* Clone() const override;
+  /// visitor.Visit(*this).
   bool Accept(KC2DElementVisitor& visitor) override;
+  /// The start point.
   KC2DPoint GetStartPoint() const override { return m_start; }
+  /// The end point.
   KC2DPoint GetEndPoint() const override { return m_end; }
   /// The point on the circle at fraction t of the sweep from the start angle, in the turning sense.
   KC2DPoint GetParametricPoint(double t) const override;
   /// Bounding box of start, end and every quadrant point (0, 90, 180, 270 degrees) on the sweep.
   double GetMinX() const override;
+  /// Smallest y of the bounding box.
   double GetMinY() const override;
+  /// Largest x of the bounding box.
   double GetMaxX() const override;
+  /// Largest y of the bounding box.
   double GetMaxY() const override;
   /// Radius times sweep.
   double Len() const override;
+  /// Same kind with every coordinate within tolerance.
   bool IsAlmostEq(const KC2DElement& other, double tolerance) const override;
+  /// Mirror at the x axis.
   void MirrorX() override;
+  /// Mirror at the y axis.
   void MirrorY() override;
   /// Same as SwapPointsWithReverse.
   void Reverse() override { SwapPointsWithReverse(); }
+  /// Turn the axes counter-clockwise by angleRad about the origin (the element turns clockwise).
   void RotateAxis(double angleRad) override;
+  /// Scale about the origin.
   void Scale(double factor) override;
   /// Scales start, end and centre x; a negative factor flips the turning sense. Unequal ScaleX and ScaleY
   /// would make an ellipse, which an arc cannot hold: the radius then follows the new start point.
   void ScaleX(double factor) override;
   /// As ScaleX, for y.
   void ScaleY(double factor) override;
+  /// Move by (dx, dy).
   void Translate(double dx, double dy) override;
   /// AddAsPolygonMaxAngle with steps of at most 5 degrees.
   void AddAsPolygon(KC2DPointList& points) const override;
   /// Keys "StartX", "StartY", "EndX", "EndY", "CenterX", "CenterY", "Direction" ("CCW" or "CW").
   bool Read(const KCString& name, KCParagraph* paragraph, int digits) override;
+  /// Write into the child section name; false for a null paragraph.
   bool Write(const KCString& name, KCParagraph* paragraph, int digits) const override;
 
  private:
@@ -370,7 +417,9 @@ class NCAPPKIT_EXPORT KC2DRectangle : public KC2DElement {
   /// Largest y minus smallest y.
   double GetHeight() const noexcept { return m_maxY - m_minY; }
 
+  /// A new copy of this element, owned by the caller.
   KC2DElement* Clone() const override;
+  /// visitor.Visit(*this).
   bool Accept(KC2DElementVisitor& visitor) override;
   /// The smallest corner.
   KC2DPoint GetStartPoint() const override { return KC2DPoint(m_minX, m_minY); }
@@ -378,26 +427,39 @@ class NCAPPKIT_EXPORT KC2DRectangle : public KC2DElement {
   KC2DPoint GetEndPoint() const override { return KC2DPoint(m_minX, m_minY); }
   /// The point at fraction t (clamped to 0..1) of the perimeter, counter-clockwise from the smallest corner.
   KC2DPoint GetParametricPoint(double t) const override;
+  /// Smallest x of the bounding box.
   double GetMinX() const override { return m_minX; }
+  /// Smallest y of the bounding box.
   double GetMinY() const override { return m_minY; }
+  /// Largest x of the bounding box.
   double GetMaxX() const override { return m_maxX; }
+  /// Largest y of the bounding box.
   double GetMaxY() const override { return m_maxY; }
   /// The perimeter.
   double Len() const override;
+  /// Same kind with every coordinate within tolerance.
   bool IsAlmostEq(const KC2DElement& other, double tolerance) const override;
+  /// Mirror at the x axis.
   void MirrorX() override;
+  /// Mirror at the y axis.
   void MirrorY() override;
   /// Nothing to do: the outline always runs counter-clockwise from the smallest corner.
   void Reverse() override {}
+  /// Turn the axes counter-clockwise by angleRad about the origin (the element turns clockwise).
   void RotateAxis(double angleRad) override;
+  /// Scale about the origin.
   void Scale(double factor) override;
+  /// Scale x about the origin.
   void ScaleX(double factor) override;
+  /// Scale y about the origin.
   void ScaleY(double factor) override;
+  /// Move by (dx, dy).
   void Translate(double dx, double dy) override;
   /// Appends the four corners counter-clockwise from the smallest one, then the smallest corner again.
   void AddAsPolygon(KC2DPointList& points) const override;
   /// Keys "MinX", "MinY", "MaxX", "MaxY".
   bool Read(const KCString& name, KCParagraph* paragraph, int digits) override;
+  /// Write into the child section name; false for a null paragraph.
   bool Write(const KCString& name, KCParagraph* paragraph, int digits) const override;
 
  private:

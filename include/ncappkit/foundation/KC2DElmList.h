@@ -48,7 +48,9 @@ class NCAPPKIT_EXPORT KC2DElmList {
   KC2DElement* GetAt(std::size_t index) const noexcept {
     return index < m_items.size() ? m_items[index] : nullptr;
   }
+  /// First entry.
   const_iterator begin() const noexcept { return m_items.begin(); }
+  /// Past the last entry.
   const_iterator end() const noexcept { return m_items.end(); }
 
   /// Let `visitor` visit each element front to back, skipping null entries; stops at the first false and

@@ -47,9 +47,13 @@ class NCAPPKIT_EXPORT CMath2D {
     Ci2DPoint& operator=(const Ci2DPoint&) = default;
     ~Ci2DPoint() override;
 
+    /// The x coordinate.
     int GetX() const override { return m_x; }
+    /// The y coordinate.
     int GetY() const override { return m_y; }
+    /// Set the x coordinate.
     void SetX(int x) override { m_x = x; }
+    /// Set the y coordinate.
     void SetY(int y) override { m_y = y; }
 
    private:
@@ -68,9 +72,13 @@ class NCAPPKIT_EXPORT CMath2D {
     Cd2DPoint& operator=(const Cd2DPoint&) = default;
     ~Cd2DPoint() override;
 
+    /// The x coordinate.
     double GetX() const override { return m_x; }
+    /// The y coordinate.
     double GetY() const override { return m_y; }
+    /// Set the x coordinate.
     void SetX(double x) override { m_x = x; }
+    /// Set the y coordinate.
     void SetY(double y) override { m_y = y; }
 
     /// True when both coordinates differ by at most 1e-7 (a difference of exactly 1e-7 is still equal); the
@@ -102,13 +110,21 @@ class NCAPPKIT_EXPORT CMath2D {
     Ci2DLine& operator=(const Ci2DLine&) = default;
     ~Ci2DLine() override;
 
+    /// The start point's x.
     int GetStartX() const override { return m_startX; }
+    /// The start point's y.
     int GetStartY() const override { return m_startY; }
+    /// Set the start point's x.
     void SetStartX(int x) override { m_startX = x; }
+    /// Set the start point's y.
     void SetStartY(int y) override { m_startY = y; }
+    /// The end point's x.
     int GetEndX() const override { return m_endX; }
+    /// The end point's y.
     int GetEndY() const override { return m_endY; }
+    /// Set the end point's x.
     void SetEndX(int x) override { m_endX = x; }
+    /// Set the end point's y.
     void SetEndY(int y) override { m_endY = y; }
 
    private:
@@ -132,13 +148,21 @@ class NCAPPKIT_EXPORT CMath2D {
     Cd2DLine& operator=(const Cd2DLine&) = default;
     ~Cd2DLine() override;
 
+    /// The start point's x.
     double GetStartX() const override { return m_startX; }
+    /// The start point's y.
     double GetStartY() const override { return m_startY; }
+    /// Set the start point's x.
     void SetStartX(double x) override { m_startX = x; }
+    /// Set the start point's y.
     void SetStartY(double y) override { m_startY = y; }
+    /// The end point's x.
     double GetEndX() const override { return m_endX; }
+    /// The end point's y.
     double GetEndY() const override { return m_endY; }
+    /// Set the end point's x.
     void SetEndX(double x) override { m_endX = x; }
+    /// Set the end point's y.
     void SetEndY(double y) override { m_endY = y; }
 
    private:
@@ -166,23 +190,41 @@ class NCAPPKIT_EXPORT CMath2D {
     Ci2DArc& operator=(const Ci2DArc&) = default;
     ~Ci2DArc() override;
 
+    /// The stored turning sense (0 none, 1 clockwise, 2 counter-clockwise).
     eArcType GetArcType() const override { return m_arcType; }
+    /// Store the turning sense, unchecked.
     void SetArcType(eArcType type) override { m_arcType = type; }
+    /// Store 1 (clockwise).
     void SetArcCW() override { m_arcType = eArcCW; }
+    /// Store 2 (counter-clockwise).
     void SetArcCCW() override { m_arcType = eArcCCW; }
+    /// True exactly when the turning sense is 1.
     bool IsArcCW() const override { return m_arcType == eArcCW; }
+    /// True exactly when the turning sense is 2.
     bool IsArcCCW() const override { return m_arcType == eArcCCW; }
+    /// The start point's x.
     int GetStartX() const override { return m_startX; }
+    /// The start point's y.
     int GetStartY() const override { return m_startY; }
+    /// Set the start point's x.
     void SetStartX(int x) override { m_startX = x; }
+    /// Set the start point's y.
     void SetStartY(int y) override { m_startY = y; }
+    /// The end point's x.
     int GetEndX() const override { return m_endX; }
+    /// The end point's y.
     int GetEndY() const override { return m_endY; }
+    /// Set the end point's x.
     void SetEndX(int x) override { m_endX = x; }
+    /// Set the end point's y.
     void SetEndY(int y) override { m_endY = y; }
+    /// The centre's x.
     int GetCenterX() const override { return m_centerX; }
+    /// The centre's y.
     int GetCenterY() const override { return m_centerY; }
+    /// Set the centre's x.
     void SetCenterX(int x) override { m_centerX = x; }
+    /// Set the centre's y.
     void SetCenterY(int y) override { m_centerY = y; }
 
    private:
@@ -217,23 +259,41 @@ class NCAPPKIT_EXPORT CMath2D {
     Cd2DArc& operator=(const Cd2DArc&) = default;
     ~Cd2DArc() override;
 
+    /// The stored turning sense (0 none, 1 clockwise, 2 counter-clockwise).
     eArcType GetArcType() const override { return m_arcType; }
+    /// Store the turning sense, unchecked.
     void SetArcType(eArcType type) override { m_arcType = type; }
+    /// Store 1 (clockwise).
     void SetArcCW() override { m_arcType = eArcCW; }
+    /// Store 2 (counter-clockwise).
     void SetArcCCW() override { m_arcType = eArcCCW; }
+    /// True exactly when the turning sense is 1.
     bool IsArcCW() const override { return m_arcType == eArcCW; }
+    /// True exactly when the turning sense is 2.
     bool IsArcCCW() const override { return m_arcType == eArcCCW; }
+    /// The start point's x.
     double GetStartX() const override { return m_startX; }
+    /// The start point's y.
     double GetStartY() const override { return m_startY; }
+    /// Set the start point's x.
     void SetStartX(double x) override { m_startX = x; }
+    /// Set the start point's y.
     void SetStartY(double y) override { m_startY = y; }
+    /// The end point's x.
     double GetEndX() const override { return m_endX; }
+    /// The end point's y.
     double GetEndY() const override { return m_endY; }
+    /// Set the end point's x.
     void SetEndX(double x) override { m_endX = x; }
+    /// Set the end point's y.
     void SetEndY(double y) override { m_endY = y; }
+    /// The centre's x.
     double GetCenterX() const override { return m_centerX; }
+    /// The centre's y.
     double GetCenterY() const override { return m_centerY; }
+    /// Set the centre's x.
     void SetCenterX(double x) override { m_centerX = x; }
+    /// Set the centre's y.
     void SetCenterY(double y) override { m_centerY = y; }
 
     /// Distance from the centre to the END point (CMath2D::GetArcRadius measures to the start point).

@@ -36,7 +36,9 @@ class NCAPPKIT_EXPORT CMathAuxShapes {
     CAuxHorLine& operator=(const CAuxHorLine&) = default;
     ~CAuxHorLine() override;
 
+    /// The position of the line.
     double GetPos() const override { return m_pos; }
+    /// Set the position of the line.
     void SetPos(double pos) override { m_pos = pos; }
 
    private:
@@ -54,7 +56,9 @@ class NCAPPKIT_EXPORT CMathAuxShapes {
     CAuxVerLine& operator=(const CAuxVerLine&) = default;
     ~CAuxVerLine() override;
 
+    /// The position of the line.
     double GetPos() const override { return m_pos; }
+    /// Set the position of the line.
     void SetPos(double pos) override { m_pos = pos; }
 
    private:
@@ -74,13 +78,21 @@ class NCAPPKIT_EXPORT CMathAuxShapes {
     CAuxLine& operator=(const CAuxLine&) = default;
     ~CAuxLine() override;
 
+    /// The x of the point the line passes through.
     double GetXPos() const override { return m_xPos; }
+    /// Set the x of the point the line passes through.
     void SetXPos(double x) override { m_xPos = x; }
+    /// The y of the point the line passes through.
     double GetYPos() const override { return m_yPos; }
+    /// Set the y of the point the line passes through.
     void SetYPos(double y) override { m_yPos = y; }
+    /// The direction in degrees, as stored.
     double GetAngleDeg() const override { return m_angleDeg; }
+    /// atan(1) * angleDeg / 45.
     double GetAngleRad() const override;
+    /// Store the direction in degrees.
     void SetAngleDeg(double angleDeg) override { m_angleDeg = angleDeg; }
+    /// Store angleRad * 45 / atan(1) degrees.
     void SetAngleRad(double angleRad) override;
 
    private:
@@ -102,7 +114,9 @@ class NCAPPKIT_EXPORT CMathAuxShapes {
     CAuxCircle& operator=(const CAuxCircle&) = default;
     ~CAuxCircle() override;
 
+    /// The radius.
     double GetRadius() const override { return m_radius; }
+    /// Set the radius.
     void SetRadius(double radius) override { m_radius = radius; }
 
     /// The stored centre x (a plain member: not the interface's GetCenterX).

@@ -58,7 +58,9 @@ class NCAPPKIT_EXPORT CNcParamInteger : public CNcParameter {
  public:
   /// Value 0, no line.
   CNcParamInteger();
+  /// Copies the value fields and binds the same line.
   CNcParamInteger(const CNcParamInteger& other);
+  /// Copies the value fields and binds the same line.
   CNcParamInteger& operator=(const CNcParamInteger& other);
   ~CNcParamInteger() override;
 
@@ -78,7 +80,9 @@ class NCAPPKIT_EXPORT CNcParamDouble : public CNcParameter {
  public:
   /// No value (0.0), 0 decimals, no line.
   CNcParamDouble();
+  /// Copies the value fields and binds the same line.
   CNcParamDouble(const CNcParamDouble& other);
+  /// Copies the value fields and binds the same line.
   CNcParamDouble& operator=(const CNcParamDouble& other);
   ~CNcParamDouble() override;
 
@@ -111,7 +115,9 @@ class NCAPPKIT_EXPORT CNcParamString : public CNcParameter {
  public:
   /// Empty value, no line.
   CNcParamString();
+  /// Copies the value fields and binds the same line.
   CNcParamString(const CNcParamString& other);
+  /// Copies the value fields and binds the same line.
   CNcParamString& operator=(const CNcParamString& other);
   ~CNcParamString() override;
 
@@ -131,7 +137,9 @@ class NCAPPKIT_EXPORT CNcParamSubProgId : public CNcParameter {
  public:
   /// Number 0, no line.
   CNcParamSubProgId();
+  /// Copies the value fields and binds the same line.
   CNcParamSubProgId(const CNcParamSubProgId& other);
+  /// Copies the value fields and binds the same line.
   CNcParamSubProgId& operator=(const CNcParamSubProgId& other);
   ~CNcParamSubProgId() override;
 
@@ -152,7 +160,9 @@ class NCAPPKIT_EXPORT CNcParamIsoCommand : public CNcParameter {
  public:
   /// Empty command, address '-', value 0.0, no line.
   CNcParamIsoCommand();
+  /// Copies the value fields and binds the same line.
   CNcParamIsoCommand(const CNcParamIsoCommand& other);
+  /// Copies the value fields and binds the same line.
   CNcParamIsoCommand& operator=(const CNcParamIsoCommand& other);
   ~CNcParamIsoCommand() override;
 

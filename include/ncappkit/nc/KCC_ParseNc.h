@@ -40,39 +40,61 @@ class NCAPPKIT_EXPORT KCC_ParseNc {
   /// before its sign was applied, or a second '.'. Words decoded before a fault keep their values.
   bool DecodeISOLine(const KCString& line);
 
-  /// A value of the last decoded block: true and `value` set when the letter was present, else false and
-  /// `value` untouched.
+  // Getters: each reports a word of the last decoded block. When the letter was present it writes the
+  // value and returns true; otherwise it returns false and leaves `value` untouched.
+  /// The A word: its integer part; false when the block had no A.
   bool GetACommand(int& value) const;
+  /// The A word: its value with its fraction; false when the block had no A.
   bool GetACommand(double& value) const;
+  /// The B word: its integer part; false when the block had no B.
   bool GetBCommand(int& value) const;
+  /// The B word: its value with its fraction; false when the block had no B.
   bool GetBCommand(double& value) const;
+  /// The C word: its integer part; false when the block had no C.
   bool GetCCommand(int& value) const;
+  /// The C word: its value with its fraction; false when the block had no C.
   bool GetCCommand(double& value) const;
+  /// The D word: its value with its fraction; false when the block had no D.
   bool GetDCommand(double& value) const;
+  /// The E word: its integer part; false when the block had no E.
   bool GetECommand(int& value) const;
+  /// The F word: its integer part; false when the block had no F.
   bool GetFCommand(int& value) const;
-  /// The first G word of the block.
+  /// The first G word, its integer part; false when there was none.
   bool GetGprimCommand(int& value) const;
+  /// The first G word; false when there was none.
   bool GetGprimCommand(double& value) const;
-  /// Every later G word of the block, accumulated into one value (G90 G01 G02: 102).
+  /// The later G words, accumulated into one value (G90 G01 G02: 102); false when there was none.
   bool GetGsecundCommand(double& value) const;
+  /// The I word: its value with its fraction; false when the block had no I.
   bool GetICommand(double& value) const;
+  /// The J word: its value with its fraction; false when the block had no J.
   bool GetJCommand(double& value) const;
+  /// The K word: its integer part; false when the block had no K.
   bool GetKCommand(int& value) const;
+  /// The L word: its integer part; false when the block had no L.
   bool GetLCommand(int& value) const;
-  /// The first M word of the block.
+  /// The first M word; false when there was none.
   bool GetMprimCommand(int& value) const;
-  /// Every later M word of the block, accumulated into one value.
+  /// The later M words, accumulated into one value; false when there was none.
   bool GetMsecCommand(int& value) const;
+  /// The N word: its integer part; false when the block had no N.
   bool GetNCommand(int& value) const;
+  /// The P word: its integer part; false when the block had no P.
   bool GetPCommand(int& value) const;
+  /// The S word: its integer part; false when the block had no S.
   bool GetSCommand(int& value) const;
+  /// The S word: its value with its fraction; false when the block had no S.
   bool GetSCommand(double& value) const;
+  /// The R word: its value with its fraction; false when the block had no R.
   bool GetRCommand(double& value) const;
+  /// The T word: its integer part; false when the block had no T.
   bool GetTCommand(int& value) const;
-  /// True when X was present; then `value` is the V value (0.0 when the block had no V).
+  /// True when the block had an X word; then `value` is the V value (0.0 when the block had no V).
   bool GetVCommand(double& value) const;
+  /// The X word: its value with its fraction; false when the block had no X.
   bool GetXCommand(double& value) const;
+  /// The Y word: its value with its fraction; false when the block had no Y.
   bool GetYCommand(double& value) const;
 
   /// True when the NUL-terminated `line` holds M30 outside round brackets, not followed by a digit.

@@ -447,3 +447,53 @@ TEST(GeometryProperties, ElementPolygonVerticesLieOnTheArc) {
     EXPECT_GE(length, element.Len() * std::cos(2 * kPi / 144)) << i;  // chord of a 5 degree step
   }
 }
+
+TEST(GeometryProperties, AuxIntersectionsLieOnBothShapes) {
+  // Aux line (not within 1 degree of an axis or of each other) against an aux line, a circle and a segment's
+  // infinite line: every point found lies on both shapes within 1e-8 relative.
+  Random rnd(25);
+  auto auxLineDistance = [](const KCI_AuxLine& l, const Point& p) {
+    const double a = l.GetAngleRad();
+    return std::fabs(std::cos(a) * (p.GetY() - l.GetYPos()) - std::sin(a) * (p.GetX() - l.GetXPos()));
+  };
+  int circleHits = 0;
+  for (int i = 0; i < kRuns; ++i) {
+    const double deg1 = rnd.Uniform(-179, 179), deg2 = rnd.Uniform(-179, 179);
+    if (std::fabs(std::remainder(deg1, 90.0)) < 1 || std::fabs(std::remainder(deg2, 90.0)) < 1 ||
+        std::fabs(std::remainder(deg1 - deg2, 180.0)) < 1) {
+      continue;
+    }
+    const CMathAuxShapes::CAuxLine a(rnd.Uniform(-50, 50), rnd.Uniform(-50, 50), deg1);
+    const CMathAuxShapes::CAuxLine b(rnd.Uniform(-50, 50), rnd.Uniform(-50, 50), deg2);
+    const double steep = 1 + std::fabs(std::tan(a.GetAngleRad())) + std::fabs(std::tan(b.GetAngleRad()));
+    Point p;
+    ASSERT_TRUE(CMathAuxShapes::GetIntersection(a, b, p)) << i;
+    EXPECT_LE(auxLineDistance(a, p), 1e-8 * Scale(p) * steep) << i;
+    EXPECT_LE(auxLineDistance(b, p), 1e-8 * Scale(p) * steep) << i;
+
+    const Line segment(b.GetXPos(), b.GetYPos(), b.GetXPos() + 10 * std::cos(b.GetAngleRad()),
+                       b.GetYPos() + 10 * std::sin(b.GetAngleRad()));
+    ASSERT_TRUE(CMathAuxShapes::GetIntersection(segment, a, p)) << i;
+    EXPECT_LE(auxLineDistance(a, p), 1e-8 * Scale(p) * steep) << i;
+    EXPECT_LE(LineDistance(segment, p), 1e-8 * Scale(p) * steep) << i;
+
+    const CMathAuxShapes::CAuxCircleImpl circle(rnd.Uniform(-50, 50), rnd.Uniform(-50, 50),
+                                                rnd.Uniform(1, 50));
+    const Point centre(circle.GetCenterX(), circle.GetCenterY());
+    Point p1, p2;
+    const bool hit = CMathAuxShapes::GetIntersection(circle, a, p1, p2);
+    const double gap = circle.GetRadius() - auxLineDistance(a, centre);
+    if (gap > 1e-3) {
+      ASSERT_TRUE(hit) << i;
+      for (const Point* q : {&p1, &p2}) {
+        EXPECT_NEAR(CMath2D::GetDistance(*q, centre), circle.GetRadius(), 1e-8 * (100 + Scale(*q)) * steep)
+            << i;
+        EXPECT_LE(auxLineDistance(a, *q), 1e-8 * Scale(*q) * steep) << i;
+      }
+      ++circleHits;
+    } else if (gap < -1e-3) {
+      EXPECT_FALSE(hit) << i;
+    }
+  }
+  EXPECT_GT(circleHits, 1000);
+}

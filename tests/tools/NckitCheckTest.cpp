@@ -92,7 +92,7 @@ TEST_F(NckitCheck, EmptyFileHasNoNcStructure) {
 
 TEST_F(NckitCheck, NulBytesDoNotCrash) {
   TempDir dir;
-  const std::string path = dir.WriteFile("nul.nc", std::string("O1\0\0\0\nM30\n", 10));
+  const std::string path = dir.WriteFile("nul-bytes.nc", std::string("O1\0\0\0\nM30\n", 10));
   const ChildResult r = Check({path});
   EXPECT_EQ(r.exitCode, 0);
 }

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "ncappkit/config/KCC_CfgObject.h"
+#include "support/PlatformText.h"
 #include "support/TempDir.h"
 
 TEST(KccCfgObjectIniFile, KeepsFileNameAndSection) {
@@ -58,7 +59,8 @@ TEST(KccCfgObjectIniFile, WritesReadBack) {
   EXPECT_EQ(cfg.ReadCfgString("Text", ""), "hello world");
   EXPECT_EQ(cfg.ReadCfgInteger("Number", 0), -12);
   EXPECT_DOUBLE_EQ(cfg.ReadCfgDouble("Real", 0.0), 2.25);
-  EXPECT_EQ(dir.ReadFile("app.ini"), "[App]\nText=hello world\nNumber=-12\nReal=2.250\n");
+  // A new file gets the system's text line ends.
+  EXPECT_EQ(dir.ReadFile("app.ini"), PlatformText("[App]\nText=hello world\nNumber=-12\nReal=2.250\n"));
 }
 
 TEST(KccCfgObjectIniFile, IntegerReadOfTextGivesTheDefault) {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "support/ChildProcess.h"
+#include "support/PlatformText.h"
 #include "support/TempDir.h"
 
 namespace {
@@ -44,7 +45,7 @@ TEST_F(NckitExtract, WritesTheSameTextToAFile) {
   const ChildResult r = Extract({kFanucSample, "8010", "8020", "-o", dir.Path("subs.nc")});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_EQ(r.out, "");
-  EXPECT_EQ(dir.ReadFile("subs.nc"), kSetupAndPocket);
+  EXPECT_EQ(dir.ReadFile("subs.nc"), PlatformText(kSetupAndPocket));
 }
 
 TEST_F(NckitExtract, MainProgramsComeFirst) {

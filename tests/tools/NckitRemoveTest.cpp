@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "support/ChildProcess.h"
+#include "support/PlatformText.h"
 #include "support/TempDir.h"
 
 namespace {
@@ -33,7 +34,7 @@ TEST_F(NckitRemove, WritesAllButTheChosenPrograms) {
   const ChildResult r = Remove({input, "8000", "-o", dir.Path("out.nc")});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_EQ(r.out, "removed 1 program, wrote " + dir.Path("out.nc") + "\n");
-  EXPECT_EQ(dir.ReadFile("out.nc"), "%\nO1\nM30\nO2\nM30\n%\n");
+  EXPECT_EQ(dir.ReadFile("out.nc"), PlatformText("%\nO1\nM30\nO2\nM30\n%\n"));
   EXPECT_EQ(dir.ReadFile("in.nc"), kThree);
 }
 
@@ -41,14 +42,14 @@ TEST_F(NckitRemove, RemovesEveryProgramWithTheNumber) {
   TempDir dir;
   const std::string input = dir.WriteFile("in.nc", "O1\nM30\nO1\nM99\nO2\nM30\n");
   EXPECT_EQ(Remove({input, "O1", "-o", dir.Path("out.nc")}).exitCode, 0);
-  EXPECT_EQ(dir.ReadFile("out.nc"), "%\nO2\nM30\n%\n");
+  EXPECT_EQ(dir.ReadFile("out.nc"), PlatformText("%\nO2\nM30\n%\n"));
 }
 
 TEST_F(NckitRemove, InputIsReplacedOnlyWhenNamedAsOutput) {
   TempDir dir;
   const std::string input = dir.WriteFile("in.nc", kThree);
   EXPECT_EQ(Remove({input, "1", "-o", input}).exitCode, 0);
-  EXPECT_EQ(dir.ReadFile("in.nc"), "%\nO2\nM30\nO8000\nM99\n%\n");
+  EXPECT_EQ(dir.ReadFile("in.nc"), PlatformText("%\nO2\nM30\nO8000\nM99\n%\n"));
 }
 
 TEST_F(NckitRemove, OutputIsRequired) {

@@ -1,10 +1,12 @@
 // nckit split, run as a program.
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
 #include "support/ChildProcess.h"
+#include "support/PlatformText.h"
 #include "support/TempDir.h"
 
 namespace {
@@ -36,7 +38,7 @@ TEST_F(NckitSplit, WritesOneFilePerProgramWithPercentLines) {
     EXPECT_TRUE(dir.Exists(std::string("parts/") + name)) << name;
   }
   EXPECT_EQ(dir.ReadFile("parts/O8010.nc"),
-            "%\nO8010 (SETUP)\nN10 G21 G90 G17 G54\nN20 G28 G91 Z0\nN30 M99\n%\n");
+            PlatformText("%\nO8010 (SETUP)\nN10 G21 G90 G17 G54\nN20 G28 G91 Z0\nN30 M99\n%\n"));
 }
 
 TEST_F(NckitSplit, RefusesToOverwriteWithoutForce) {
@@ -44,7 +46,8 @@ TEST_F(NckitSplit, RefusesToOverwriteWithoutForce) {
   dir.WriteFile("parts/O8010.nc", "mine");
   const ChildResult r = Split({kFanucSample, "-o", dir.Path("parts")});
   EXPECT_EQ(r.exitCode, 1);
-  EXPECT_EQ(r.err, "nckit split: " + dir.Path("parts/O8010.nc") + " exists; use --force to replace it\n");
+  const std::string target = (std::filesystem::path(dir.Path("parts")) / "O8010.nc").string();
+  EXPECT_EQ(r.err, "nckit split: " + target + " exists; use --force to replace it\n");
   EXPECT_EQ(dir.ReadFile("parts/O8010.nc"), "mine");
   EXPECT_FALSE(dir.Exists("parts/O1000.nc"));
 }
@@ -53,7 +56,7 @@ TEST_F(NckitSplit, ForceReplacesExistingFiles) {
   TempDir dir;
   dir.WriteFile("parts/O8010.nc", "mine");
   EXPECT_EQ(Split({kFanucSample, "-o", dir.Path("parts"), "--force"}).exitCode, 0);
-  EXPECT_EQ(dir.ReadFile("parts/O8010.nc").rfind("%\nO8010 (SETUP)\n", 0), 0u);
+  EXPECT_EQ(dir.ReadFile("parts/O8010.nc").rfind(PlatformText("%\nO8010 (SETUP)\n"), 0), 0u);
 }
 
 TEST_F(NckitSplit, NeverWritesOverTheInputFile) {
@@ -69,9 +72,9 @@ TEST_F(NckitSplit, DuplicateAndMissingNumbersGetTheirOwnNames) {
   TempDir dir;
   const std::string input = dir.WriteFile("in.nc", "O5\nM30\nO5\nM30\nG0 X0\nM30\n");
   EXPECT_EQ(Split({input, "-o", dir.Path("out")}).exitCode, 0);
-  EXPECT_EQ(dir.ReadFile("out/O0005.nc"), "%\nO5\nM30\n%\n");
+  EXPECT_EQ(dir.ReadFile("out/O0005.nc"), PlatformText("%\nO5\nM30\n%\n"));
   EXPECT_TRUE(dir.Exists("out/O0005_2.nc"));
-  EXPECT_EQ(dir.ReadFile("out/unnumbered_1.nc"), "%\nG0 X0\nM30\n%\n");
+  EXPECT_EQ(dir.ReadFile("out/unnumbered_1.nc"), PlatformText("%\nG0 X0\nM30\n%\n"));
 }
 
 TEST_F(NckitSplit, OutputThatIsAFileIsAUsageError) {

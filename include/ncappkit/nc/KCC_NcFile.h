@@ -5,9 +5,8 @@
 //   if (file.LoadFromFile("part.nc", /*checkFirstBlock=*/true, /*keepUnfinished=*/false) == nullptr) {
 //     if (file.HasFileNotFoundError()) ...
 //   }
-//   for (KCC_NcFileProgram* p = file.GetMainProgList().GetFirstProg(); p; p =
-//   file.GetMainProgList().GetNextProg())
-//     ...
+//   KCC_NcFileProgramList& mains = file.GetMainProgList();
+//   for (KCC_NcFileProgram* p = mains.GetFirstProg(); p != nullptr; p = mains.GetNextProg()) { ... }
 //   file.SaveToFile("out.nc");
 //
 // How a text is split:
@@ -30,7 +29,9 @@
 //   A lone CR is an ordinary character; CRs and LFs at the start of a line are treated as blanks.
 // - The line the program sees ends at its first NUL byte (as in a character buffer).
 // - An empty read at the very end of the file (after the last line end) is not a line.
-// - The pending sub-program state ends whenever a new current program is started.
+// - The pending sub-program state ends whenever a new current program is started (so a pending
+//   sub-program that meets M30 goes to the main-program list, and the next program starts fresh).
+// - SaveToFile writes text lines: LF line ends, CR LF on Windows.
 //
 // Copying a KCC_NcFile copies the two lists memberwise: the copies share their programs (see
 // KCC_NcFileProgramList).

@@ -436,3 +436,15 @@ TEST(KccNcFile, CopySharesTheProgramsWithTheOriginal) {
   copy.GetMainProgList().Detach();
   copy.GetSubProgList().Detach();
 }
+
+TEST(KccNcFile, PendingSubProgramThatMeetsM30BecomesAMainProgram) {
+  KCC_NcFile file;
+  KCC_NcFileProgram* result =
+      file.LoadFromStringList(Lines({"O5", "M99", "G0 X0", "M30", "O6", "M99"}), false, false);
+  ASSERT_EQ(file.GetNumberOfMainPrograms(), 1);
+  EXPECT_EQ(LinesOf(*file.GetMainProgList().GetProgram(0)),
+            (std::vector<std::string>{"O5", "M99", "G0 X0", "M30"}));
+  ASSERT_EQ(file.GetNumberOfSubPrograms(), 1);
+  EXPECT_EQ(file.GetSubProgList().GetProgram(0)->GetProgramNumber(), 6);
+  EXPECT_EQ(result, file.GetSubProgList().GetProgram(0));
+}

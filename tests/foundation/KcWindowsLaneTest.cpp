@@ -5,12 +5,19 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <fstream>
 #include <string>
+#include <vector>
 
 #include "ncappkit/foundation/KCC_MessageBox.h"
 #include "ncappkit/foundation/KCFileMan.h"
+#include "ncappkit/foundation/KCIniFile.h"
 #include "ncappkit/foundation/KCPlatform.h"
+#include "ncappkit/nc/KCC_NcFile.h"
+#include "ncappkit/nc/KCC_NcFileProgram.h"
+#include "ncappkit/nc/KCC_NcFileProgramList.h"
 #include "ncappkit/version.h"
+#include "support/PlatformText.h"
 #include "support/TempDir.h"
 
 #if defined(_WIN32)
@@ -56,6 +63,29 @@ class ScopedHandler {
  private:
   KCC_MessageBoxHandler m_previous;
 };
+
+// The lines of the first main program of `file`.
+std::vector<std::string> FirstProgramLines(KCC_NcFile& file) {
+  std::vector<std::string> lines;
+  const KCC_NcFileProgram* program = file.GetMainProgList().GetProgram(0);
+  if (program == nullptr)
+    return lines;
+  for (const KCString& line : program->GetStringList())
+    lines.push_back(line.str());
+  return lines;
+}
+
+// Writes `text` through a text-mode stream, as a Windows editor or program would ("\r\n" on Windows).
+std::string WriteThroughTextStream(const TempDir& dir, const std::string& name, const std::string& text) {
+  const std::string path = dir.Path(name);
+  std::ofstream out(path);
+  out << text;
+  out.close();
+  EXPECT_TRUE(out.good()) << path;
+  return path;
+}
+
+const std::vector<std::string> kPlateLines = {"O1 (PLATE)", "G0 X1. Y2.", "M30"};
 
 std::string LibraryVersion(bool withBuild) {
   return withBuild ? std::string(NCAPPKIT_VERSION_STRING) + ".0" : std::string(NCAPPKIT_VERSION_STRING);
@@ -199,4 +229,75 @@ TEST(KcWindowsLane, ReportShowsTheTextThroughTheInstalledHandler) {
   EXPECT_EQ(g_seen.caption, "Load");
   EXPECT_EQ(g_seen.style, 0x30u);  // OK, exclamation, first button
   EXPECT_EQ(box.GetReturn(), 4u);
+}
+
+TEST(KcWindowsLane, NcFileWithCrLfLineEndsLoadsTheSameLinesAsWithLf) {
+  TempDir dir;
+  const std::string crlf = dir.WriteFile("crlf.nc", "%\r\nO1 (PLATE)\r\nG0 X1. Y2.\r\nM30\r\n%\r\n");
+  const std::string lf = dir.WriteFile("lf.nc", "%\nO1 (PLATE)\nG0 X1. Y2.\nM30\n%\n");
+  KCC_NcFile fromCrlf;
+  KCC_NcFile fromLf;
+
+  ASSERT_NE(fromCrlf.LoadFromFile(crlf, true, false), nullptr);
+  ASSERT_NE(fromLf.LoadFromFile(lf, true, false), nullptr);
+
+  EXPECT_EQ(FirstProgramLines(fromCrlf), kPlateLines);
+  EXPECT_EQ(FirstProgramLines(fromLf), kPlateLines);
+}
+
+TEST(KcWindowsLane, NcFileWrittenThroughATextStreamLoads) {
+  TempDir dir;
+  const std::string path = WriteThroughTextStream(dir, "stream.nc", "%\nO1 (PLATE)\nG0 X1. Y2.\nM30\n%\n");
+  ASSERT_EQ(TempDir::ReadFileAt(path), PlatformText("%\nO1 (PLATE)\nG0 X1. Y2.\nM30\n%\n"));
+  KCC_NcFile file;
+
+  ASSERT_NE(file.LoadFromFile(path, true, false), nullptr);
+
+  EXPECT_EQ(FirstProgramLines(file), kPlateLines);
+}
+
+TEST(KcWindowsLane, NcFileWithCrLfSavesWithTheSystemLineEndsAndReloadsUnchanged) {
+  TempDir dir;
+  const std::string crlf = dir.WriteFile("crlf.nc", "%\r\nO1 (PLATE)\r\nG0 X1. Y2.\r\nM30\r\n%\r\n");
+  KCC_NcFile original;
+  ASSERT_NE(original.LoadFromFile(crlf, true, false), nullptr);
+
+  ASSERT_TRUE(original.SaveToFile(dir.Path("saved.nc")));
+  KCC_NcFile reloaded;
+  ASSERT_NE(reloaded.LoadFromFile(dir.Path("saved.nc"), true, false), nullptr);
+
+  // On Windows the saved bytes are the loaded file's bytes again.
+  EXPECT_EQ(dir.ReadFile("saved.nc"), PlatformText("%\nO1 (PLATE)\nG0 X1. Y2.\nM30\n%\n"));
+  EXPECT_EQ(FirstProgramLines(reloaded), kPlateLines);
+}
+
+TEST(KcWindowsLane, IniFileWithCrLfLineEndsReadsItsKeys) {
+  TempDir dir;
+  KCIniFile ini(dir.WriteFile("app.ini", "[App]\r\nLang=Fra\r\nUnits=Inch\r\n\r\n[Other]\r\nLang=Ned\r\n"));
+
+  EXPECT_EQ(ini.ReadString("App", "Lang", "", false).str(), "Fra");
+  EXPECT_EQ(ini.ReadString("App", "Units", "", false).str(), "Inch");
+  EXPECT_EQ(ini.ReadString("Other", "Lang", "", false).str(), "Ned");
+}
+
+TEST(KcWindowsLane, IniFileWithCrLfKeepsItsLineEndsWhenAKeyIsWritten) {
+  TempDir dir;
+  KCIniFile ini(dir.WriteFile("app.ini", "[App]\r\nLang=Fra\r\nUnits=Inch\r\n"));
+
+  ASSERT_TRUE(ini.WriteString("App", "Lang", "Eng"));
+
+  EXPECT_EQ(dir.ReadFile("app.ini"), "[App]\r\nLang=Eng\r\nUnits=Inch\r\n");
+  EXPECT_EQ(ini.ReadString("App", "Lang", "", false).str(), "Eng");
+}
+
+TEST(KcWindowsLane, IniFileWrittenThroughATextStreamRoundTrips) {
+  TempDir dir;
+  const std::string path = WriteThroughTextStream(dir, "app.ini", "[App]\nLang=Fra\nUnits=Inch\n");
+  KCIniFile ini(path);
+
+  ASSERT_TRUE(ini.WriteInteger("App", "WriteEnable", 3));
+
+  EXPECT_EQ(TempDir::ReadFileAt(path), PlatformText("[App]\nLang=Fra\nUnits=Inch\nWriteEnable=3\n"));
+  EXPECT_EQ(ini.ReadString("App", "Lang", "", false).str(), "Fra");
+  EXPECT_EQ(ini.ReadInteger("App", "WriteEnable", 0, false), 3);
 }

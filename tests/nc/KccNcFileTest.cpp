@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "ncappkit/nc/KCC_NcFile.h"
+#include "support/PlatformText.h"
 #include "support/TempDir.h"
 
 namespace {
@@ -15,15 +16,6 @@ KCStringList Lines(std::initializer_list<const char*> lines) {
   for (const char* l : lines)
     list.push_back(l);
   return list;
-}
-
-// A saved file's text: files are written in text mode, so lines end with CR LF on Windows.
-std::string Saved(std::string text) {
-#if defined(_WIN32)
-  for (std::size_t i = 0; (i = text.find('\n', i)) != std::string::npos; i += 2)
-    text.insert(i, 1, '\r');
-#endif
-  return text;
 }
 
 std::vector<std::string> LinesOf(const KCC_NcFileProgram& program) {
@@ -347,7 +339,7 @@ TEST(KccNcFile, SaveWritesThePercentLinesBackMainProgramsFirst) {
   KCC_NcFile file;
   ASSERT_NE(file.LoadFromFile(in, false, false), nullptr);
   ASSERT_TRUE(file.SaveToFile(dir.Path("out.nc")));
-  EXPECT_EQ(dir.ReadFile("out.nc"), Saved("%\nO1\nM30\nO8010\nM99\n%\n"));
+  EXPECT_EQ(dir.ReadFile("out.nc"), PlatformText("%\nO1\nM30\nO8010\nM99\n%\n"));
 }
 
 TEST(KccNcFile, SaveWithDirectoryAndNameJoinsThem) {
@@ -355,7 +347,7 @@ TEST(KccNcFile, SaveWithDirectoryAndNameJoinsThem) {
   KCC_NcFile file;
   file.LoadFromStringList(Lines({"O1", "M30"}), false, false);
   ASSERT_TRUE(file.SaveToFile(KCString(dir.Path()), KCString("joined.nc")));
-  EXPECT_EQ(dir.ReadFile("joined.nc"), Saved("%\nO1\nM30\n%\n"));
+  EXPECT_EQ(dir.ReadFile("joined.nc"), PlatformText("%\nO1\nM30\n%\n"));
 }
 
 TEST(KccNcFile, SaveDoesNotDoubleExistingPercentLines) {
@@ -366,7 +358,7 @@ TEST(KccNcFile, SaveDoesNotDoubleExistingPercentLines) {
   p->GetStringList().insert(p->GetStringList().begin(), "%");
   p->AddLine("%");
   ASSERT_TRUE(file.SaveToFile(dir.Path("o.nc")));
-  EXPECT_EQ(dir.ReadFile("o.nc"), Saved("%\nO1\nM30\n%\n"));
+  EXPECT_EQ(dir.ReadFile("o.nc"), PlatformText("%\nO1\nM30\n%\n"));
 }
 
 TEST(KccNcFile, SaveOfNoProgramsWritesAnEmptyFile) {

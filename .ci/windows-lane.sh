@@ -1,12 +1,13 @@
 #!/usr/bin/env bash
 # Windows lane: cross-builds the library, its tests and nckit.exe with mingw-w64, runs every test under wine,
 # installs the build and links a consumer against the installed package, and runs `nckit.exe info` on the
-# bundled sample. With --linux-build DIR the nckit output is compared with DIR/bin/nckit's.
+# bundled samples. With --linux-build DIR the nckit output is compared with DIR/bin/nckit's.
 #
 #   .ci/windows-lane.sh [--linux-build build/dev] [--sample samples/<file>]
 #
 # Installs the cross compiler, wine and the GoogleTest sources with apt-get when they are missing. Exits
-# non-zero when the build, any test, the consumer or the nckit comparison fails.
+# non-zero when the build, any test, the consumer or the nckit comparison fails, or when a program needs a
+# MinGW runtime DLL.
 set -euo pipefail
 
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
@@ -19,7 +20,7 @@ while [[ $# -gt 0 ]]; do
   case "$1" in
     --linux-build) linux_build=$2; shift 2 ;;
     --sample) sample=$2; shift 2 ;;
-    -h | --help) sed -n '2,9p' "$0"; exit 0 ;;
+    -h | --help) sed -n '2,10p' "$0"; exit 0 ;;
     *) echo "windows-lane: unknown argument '$1'" >&2; exit 2 ;;
   esac
 done
@@ -67,11 +68,24 @@ step "configure"
 cmake --preset windows >/dev/null
 step "build"
 cmake --build --preset windows --parallel 2
+bin="$root/build/windows/bin"
+
+# The programs carry their GCC runtime inside (static libgcc, libstdc++, winpthread): they may import system
+# DLLs and libncappkit.dll only, so they run on a Windows machine without MinGW.
+step "runtime DLLs"
+runtime_ok=1
+for module in "$bin"/*.exe "$bin"/*.dll; do
+  imports=$(x86_64-w64-mingw32-objdump -p "$module" | sed -n 's/^[[:space:]]*DLL Name: //p' | tr '\n' ' ')
+  echo "$(basename "$module"): $imports"
+  if grep -qiE 'libstdc\+\+|libgcc|libwinpthread' <<<"$imports"; then
+    echo "windows lane: $(basename "$module") needs a MinGW runtime DLL" >&2
+    runtime_ok=0
+  fi
+done
 
 # --- tests ------------------------------------------------------------------------------------------------
 # ctest lists each test program's tests by running it under wine with a short time limit; starting wine
 # once beforehand keeps that first listing well inside it.
-bin="$root/build/windows/bin"
 first_test=$(find "$bin" -maxdepth 1 -name 'ncappkit_*_tests.exe' | sort | head -n 1)
 if [[ -n "$first_test" ]]; then
   wine "$first_test" --gtest_list_tests >/dev/null 2>&1 || true
@@ -132,43 +146,51 @@ else
   consumer_ok=0
 fi
 
-# --- nckit info on the bundled sample -----------------------------------------------------------------------
+# --- nckit info on the bundled samples ----------------------------------------------------------------------
 step "nckit.exe info"
 nckit_ok=1
-if [[ -z "$sample" ]]; then
-  sample=$(find samples -maxdepth 1 -type f \( -iname '*.nc' -o -iname '*.mpf' -o -iname '*.spf' \) | sort | head -n 1)
+samples=()
+if [[ -n "$sample" ]]; then
+  samples=("$sample")
+else
+  while IFS= read -r found; do samples+=("$found"); done < <(
+    find samples -maxdepth 1 -type f \( -iname '*.nc' -o -iname '*.mpf' -o -iname '*.spf' \) | sort)
 fi
-if [[ -z "$sample" || ! -f "$sample" ]]; then
+if [[ ${#samples[@]} -eq 0 ]]; then
   echo "windows lane: no bundled sample NC file under samples/" >&2
   nckit_ok=0
-else
-  win_out="$root/build/windows/nckit-info.txt"
+fi
+for sample in "${samples[@]}"; do
+  # The sample is named relative to the source tree, so the table shows the same file name on both systems.
+  name=$(basename "$sample")
+  win_out="$root/build/windows/nckit-info-$name.txt"
   win_rc=0
   wine "$bin/nckit.exe" info "$sample" >"$win_out.raw" 2>&1 || win_rc=$?
+  # Console output of a Windows program ends its lines with CR LF.
   tr -d '\r' <"$win_out.raw" >"$win_out"
   cat "$win_out"
   echo "(nckit.exe info $sample exited with $win_rc)"
-  if [[ $win_rc -ne 0 ]]; then
-    nckit_ok=0
-  fi
+  [[ $win_rc -eq 0 ]] || nckit_ok=0
   if [[ -n "$linux_build" ]]; then
-    linux_out="$root/build/windows/nckit-info-linux.txt"
+    linux_out="$root/build/windows/nckit-info-$name.linux.txt"
     linux_rc=0
     "$linux_build/bin/nckit" info "$sample" >"$linux_out" 2>&1 || linux_rc=$?
     if [[ $linux_rc -eq $win_rc ]] && diff -u "$linux_out" "$win_out"; then
-      echo "windows lane: nckit info prints the same table as the Linux build"
+      echo "windows lane: nckit info $sample prints the same table as the Linux build"
     else
-      echo "windows lane: nckit info differs from the Linux build (exit $linux_rc on Linux, $win_rc here)" >&2
+      echo "windows lane: nckit info $sample differs from the Linux build (exit $linux_rc there, $win_rc here)" >&2
       nckit_ok=0
     fi
   fi
-fi
+  echo
+done
 
 # --- result -----------------------------------------------------------------------------------------------
 elapsed=$(($(date +%s) - lane_start))
 echo
-echo "windows lane: tests $([[ $tests_ok -eq 1 ]] && echo passed || echo FAILED)," \
+echo "windows lane: runtime $([[ $runtime_ok -eq 1 ]] && echo static || echo FAILED)," \
+  "tests $([[ $tests_ok -eq 1 ]] && echo passed || echo FAILED)," \
   "skipped ${skipped:-?} of ${total:-?}," \
   "consumer $([[ $consumer_ok -eq 1 ]] && echo ok || echo FAILED)," \
   "nckit info $([[ $nckit_ok -eq 1 ]] && echo ok || echo FAILED), ${elapsed}s"
-[[ $tests_ok -eq 1 && $consumer_ok -eq 1 && $nckit_ok -eq 1 ]]
+[[ $runtime_ok -eq 1 && $tests_ok -eq 1 && $consumer_ok -eq 1 && $nckit_ok -eq 1 ]]

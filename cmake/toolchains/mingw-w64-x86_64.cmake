@@ -71,5 +71,19 @@ if(NCAPPKIT_WINE_PROGRAM AND NCAPPKIT_ENV_PROGRAM)
     list(APPEND _ncappkit_wine_env WINEPREFIX=${NCAPPKIT_WINEPREFIX})
   endif()
   set(CMAKE_CROSSCOMPILING_EMULATOR ${NCAPPKIT_ENV_PROGRAM} ${_ncappkit_wine_env} ${NCAPPKIT_WINE_PROGRAM})
+  # Creating a prefix takes several seconds, longer than ctest waits for a test program to list its tests;
+  # so a new prefix is made here, once, before any test runs.
+  if(NCAPPKIT_WINEPREFIX AND NOT EXISTS ${NCAPPKIT_WINEPREFIX}/system.reg)
+    find_program(NCAPPKIT_WINEBOOT_PROGRAM NAMES wineboot NO_CMAKE_FIND_ROOT_PATH)
+    find_program(NCAPPKIT_WINESERVER_PROGRAM NAMES wineserver NO_CMAKE_FIND_ROOT_PATH)
+    if(NCAPPKIT_WINEBOOT_PROGRAM AND NCAPPKIT_WINESERVER_PROGRAM)
+      message(STATUS "Creating the wine prefix ${NCAPPKIT_WINEPREFIX}")
+      file(MAKE_DIRECTORY ${NCAPPKIT_WINEPREFIX})
+      execute_process(COMMAND ${NCAPPKIT_ENV_PROGRAM} ${_ncappkit_wine_env} WINEPREFIX=${NCAPPKIT_WINEPREFIX}
+                              ${NCAPPKIT_WINEBOOT_PROGRAM} --init OUTPUT_QUIET ERROR_QUIET)
+      execute_process(COMMAND ${NCAPPKIT_ENV_PROGRAM} WINEPREFIX=${NCAPPKIT_WINEPREFIX}
+                              ${NCAPPKIT_WINESERVER_PROGRAM} --wait OUTPUT_QUIET ERROR_QUIET)
+    endif()
+  endif()
   unset(_ncappkit_wine_env)
 endif()

@@ -3,15 +3,13 @@
 # installs the build and links a consumer against the installed package, and runs `nckit.exe info` on the
 # bundled samples. With --linux-build DIR the nckit output is compared with DIR/bin/nckit's.
 #
-#   .ci/windows-lane.sh [--linux-build build/dev] [--sample samples/<file>]
+#   .ci/windows-lane.sh [--linux-build] [build/dev] [--sample samples/<file>]   (the sample from the source root)
 #
 # Installs the cross compiler, wine and the GoogleTest sources with apt-get when they are missing. Exits
 # non-zero when the build, any test, the consumer or the nckit comparison fails, or when a program needs a
 # MinGW runtime DLL.
 set -euo pipefail
 
-cd "$(dirname "${BASH_SOURCE[0]}")/.."
-root=$PWD
 lane_start=$(date +%s)
 
 linux_build=""
@@ -21,9 +19,15 @@ while [[ $# -gt 0 ]]; do
     --linux-build) linux_build=$2; shift 2 ;;
     --sample) sample=$2; shift 2 ;;
     -h | --help) sed -n '2,10p' "$0"; exit 0 ;;
-    *) echo "windows-lane: unknown argument '$1'" >&2; exit 2 ;;
+    -*) echo "windows-lane: unknown option '$1'" >&2; exit 2 ;;
+    *) linux_build=$1; shift ;;  # the Linux build directory may also be given on its own
   esac
 done
+if [[ -n "$linux_build" ]]; then
+  linux_build=$(cd "$linux_build" && pwd)  # named from the caller's directory
+fi
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+root=$PWD
 
 step() { printf '\n== windows lane: %s (%ds)\n' "$1" $(($(date +%s) - lane_start)); }
 
@@ -98,47 +102,26 @@ ctest --preset windows --output-junit "$junit" || tests_ok=0
 
 skipped=$(sed -n 's/^[[:space:]]*skipped="\([0-9]*\)".*/\1/p' "$junit" | head -n 1)
 total=$(sed -n 's/^[[:space:]]*tests="\([0-9]*\)".*/\1/p' "$junit" | head -n 1)
-echo "windows lane: ${skipped:-?} of ${total:-?} tests skipped"
+disabled=$(sed -n 's/^[[:space:]]*disabled="\([0-9]*\)".*/\1/p' "$junit" | head -n 1)
+echo "windows lane: ${skipped:-?} of ${total:-?} tests skipped (and ${disabled:-?} disabled on every system)"
 grep -o '<testcase name="[^"]*"[^>]*status="notrun"' "$junit" | sed 's/<testcase name="\([^"]*\)".*/  skipped: \1/' || true
 
 # --- install tree and consumer ------------------------------------------------------------------------------
+# The consumer project of tests/consumer, cross-built against the installed package and run under wine.
 step "install and consumer"
 install_dir="$root/build/windows-install"
-consumer_src="$root/build/windows-consumer/src"
-consumer_build="$root/build/windows-consumer/build"
-rm -rf "$install_dir" "$root/build/windows-consumer"
+consumer_build="$root/build/windows-consumer"
+rm -rf "$install_dir" "$consumer_build"
 cmake --install "$root/build/windows" --prefix "$install_dir" >/dev/null
-mkdir -p "$consumer_src"
-cat >"$consumer_src/CMakeLists.txt" <<'EOF'
-cmake_minimum_required(VERSION 3.25)
-project(ncappkit_consumer LANGUAGES CXX)
-find_package(ncappkit CONFIG REQUIRED)
-add_executable(consumer main.cpp)
-target_link_libraries(consumer PRIVATE ncappkit::ncappkit)
-EOF
-cat >"$consumer_src/main.cpp" <<'EOF'
-// Uses the installed library through its public headers and import library.
-#include <iostream>
-
-#include "ncappkit/foundation/KCFileMan.h"
-#include "ncappkit/foundation/KCPlatform.h"
-#include "ncappkit/version.h"
-
-int main() {
-  const KCString path = KCC_GetExecutablePath();
-  const KCString name = KCFileMan::ExtractFileNameNoExt(path);
-  std::cout << name.str() << ' ' << NCAPPKIT_VERSION_STRING << '\n';
-  return name == "consumer" ? 0 : 1;
-}
-EOF
 consumer_ok=1
-if cmake -S "$consumer_src" -B "$consumer_build" -G Ninja \
+# The toolchain looks for packages in the target's sysroot only, so the package is named by its directory.
+if cmake -S tests/consumer/find_package -B "$consumer_build" -G Ninja \
      -DCMAKE_TOOLCHAIN_FILE="$root/cmake/toolchains/mingw-w64-x86_64.cmake" \
      -Dncappkit_DIR="$install_dir/lib/cmake/ncappkit" >/dev/null &&
    cmake --build "$consumer_build" >/dev/null; then
   # The DLL stays in the install tree; wine finds it through WINEPATH as Windows would through PATH.
   if ! WINEPATH="$(winepath -w "$install_dir/bin")" wine "$consumer_build/consumer.exe"; then
-    echo "windows lane: the consumer of the installed package failed to run" >&2
+    echo "windows lane: the consumer of the installed package failed" >&2
     consumer_ok=0
   fi
 else

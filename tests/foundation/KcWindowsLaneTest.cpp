@@ -301,3 +301,22 @@ TEST(KcWindowsLane, IniFileWrittenThroughATextStreamRoundTrips) {
   EXPECT_EQ(ini.ReadString("App", "Lang", "", false).str(), "Fra");
   EXPECT_EQ(ini.ReadInteger("App", "WriteEnable", 0, false), 3);
 }
+
+TEST(KcWindowsLane, NcFileWithANonAsciiNameLoadsThroughTheLibrarysNarrowPaths) {
+  // The name is UTF-8, as every 8-bit text of the library; Windows programs declare UTF-8 as their code page.
+  const std::string name =
+      "Pr\xC3\xBC"
+      "fteil-\xE3\x83\xAF\xE3\x83\xBC\xE3\x82\xAF.nc";
+  TempDir dir;
+  const std::string path = dir.WriteFile(name, "%\r\nO1 (PLATE)\r\nG0 X1. Y2.\r\nM30\r\n%\r\n");
+  KCC_NcFile file;
+
+  ASSERT_TRUE(KCFileMan::FileExists(path)) << path;
+  ASSERT_NE(file.LoadFromFile(path, true, false), nullptr);
+
+  EXPECT_EQ(FirstProgramLines(file), kPlateLines);
+  EXPECT_EQ(KCFileMan::ExtractFileNameNoExt(path).str(), name.substr(0, name.size() - 3));
+#if defined(_WIN32)
+  EXPECT_EQ(GetACP(), 65001u);  // CP_UTF8
+#endif
+}

@@ -108,10 +108,11 @@ bool KCC_MathExpression::ParseMathExpression(const KCString& text) {
     return false;
   const char* const begin = text.c_str();
   const char* const end = begin + text.size();
-  CExpressionItem item;
   const char* p = begin;
   while (p != end) {
     const char c = *p;
+    // Every token is a new item, so the fields it does not set keep their initial values.
+    CExpressionItem item;
     if (IsSpace(c)) {
       ++p;
       continue;

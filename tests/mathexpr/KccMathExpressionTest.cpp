@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <iterator>
 #include <limits>
 #include <stdexcept>
 #include <string>
@@ -467,6 +468,35 @@ TEST(KccMathExpression, BuiltListEvaluates) {
   double value = 0.0;
   ASSERT_TRUE(expr.DoMathExpression(value));
   EXPECT_DOUBLE_EQ(value, 4.0);
+}
+
+TEST(KccMathExpression, ParsedItemsEqualTheSameItemsBuiltOneByOne) {
+  KCC_MessageNone quiet;
+  KCC_MathExpression built(quiet);
+  built.AddOperand(2.0);
+  built.AddOperator('*');
+  built.SetOpenBracket();
+  built.AddOperand(3.0);
+  built.SetCloseBracket();
+  KCC_MathExpression parsed(quiet);
+  ASSERT_TRUE(parsed.ParseMathExpression("2*(3)"));
+  EXPECT_TRUE(parsed.GetItemList() == built.GetItemList());
+}
+
+TEST(KccMathExpression, ParsedItemsThatAreNoOperatorsHaveABlankOperator) {
+  KCC_MessageNone quiet;
+  KCC_MathExpression expr(quiet);
+  ASSERT_TRUE(expr.ParseMathExpression("2-(3)"));
+  const CExpressionItemList& list = expr.GetItemList();
+  ASSERT_EQ(list.size(), 5u);
+  auto it = list.begin();
+  std::advance(it, 2);
+  EXPECT_TRUE(it->IsOpenBracket());
+  EXPECT_EQ(it->GetOperator(), ' ');
+  EXPECT_DOUBLE_EQ(it->GetOperand(), 0.0);
+  ++it;
+  EXPECT_TRUE(it->IsOperand());
+  EXPECT_EQ(it->GetOperator(), ' ');
 }
 
 TEST(KccMathExpression, ToStringWritesItemsWithoutSeparators) {

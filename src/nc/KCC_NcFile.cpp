@@ -278,6 +278,7 @@ class KCC_NcFile::Loader {
       if (m_pendingSub) {
         Store(m_file.m_subPrograms);
         StartNewProgram();
+        m_pendingSub = false;
       }
       m_current->SetProgramNumber(number);
       if (hasRef)
@@ -335,10 +336,11 @@ class KCC_NcFile::Loader {
     list.AddProgram(m_lastStored);
   }
 
+  // A new current program starts without a first block. The pending state is left alone: only a
+  // program-number line ends it, so after "M99 ... M30" the fresh program is filed as a sub-program.
   void StartNewProgram() {
     m_current.reset(new KCC_NcFileProgram());
     m_firstBlockFound = false;
-    m_pendingSub = false;
   }
 
   KCC_NcFile& m_file;

@@ -431,12 +431,45 @@ TEST(KccNcFile, CopySharesTheProgramsWithTheOriginal) {
 
 TEST(KccNcFile, PendingSubProgramThatMeetsM30BecomesAMainProgram) {
   KCC_NcFile file;
+  file.LoadFromStringList(Lines({"O5", "M99", "G0 X0", "M30", "O6", "M30"}), false, false);
+  ASSERT_EQ(file.GetNumberOfMainPrograms(), 2);
+  EXPECT_EQ(LinesOf(*file.GetMainProgList().GetProgram(0)),
+            (std::vector<std::string>{"O5", "M99", "G0 X0", "M30"}));
+  EXPECT_EQ(file.GetMainProgList().GetProgram(1)->GetProgramNumber(), 6);
+}
+
+TEST(KccNcFile, PendingStateOutlivesAnM30SoTheNextNumberLineFilesAnEmptySubProgram) {
+  // The pending state is cleared only by a program-number line: after "M99 ... M30" the fresh, still empty
+  // program is filed as a sub-program when O6 arrives.
+  KCC_NcFile file;
   KCC_NcFileProgram* result =
       file.LoadFromStringList(Lines({"O5", "M99", "G0 X0", "M30", "O6", "M99"}), false, false);
   ASSERT_EQ(file.GetNumberOfMainPrograms(), 1);
-  EXPECT_EQ(LinesOf(*file.GetMainProgList().GetProgram(0)),
-            (std::vector<std::string>{"O5", "M99", "G0 X0", "M30"}));
+  ASSERT_EQ(file.GetNumberOfSubPrograms(), 2);
+  KCC_NcFileProgram* empty = file.GetSubProgList().GetProgram(0);
+  EXPECT_EQ(empty->GetProgramNumber(), -1);
+  EXPECT_TRUE(empty->GetStringList().empty());
+  EXPECT_EQ(file.GetSubProgList().GetProgram(1)->GetProgramNumber(), 6);
+  EXPECT_EQ(result, file.GetSubProgList().GetProgram(1));
+}
+
+TEST(KccNcFile, PendingStateOutlivesAnM30AtTheEndOfTheText) {
+  // After "M99 ... M30" the pending state files the empty rest as a sub-program even without keepUnfinished.
+  KCC_NcFile file;
+  KCC_NcFileProgram* result = file.LoadFromStringList(Lines({"O5", "M99", "M30"}), false, false);
+  ASSERT_EQ(file.GetNumberOfMainPrograms(), 1);
   ASSERT_EQ(file.GetNumberOfSubPrograms(), 1);
-  EXPECT_EQ(file.GetSubProgList().GetProgram(0)->GetProgramNumber(), 6);
+  EXPECT_TRUE(file.GetSubProgList().GetProgram(0)->GetStringList().empty());
   EXPECT_EQ(result, file.GetSubProgList().GetProgram(0));
+  EXPECT_TRUE(file.HasNoError());
+}
+
+TEST(KccNcFile, PendingStateOutlivesAFirstBlockMainProgram) {
+  KCC_NcFile file;
+  file.LoadFromStringList(Lines({"O5", "M99", "M98 P8010", "M99", "O6", "M30"}), true, false);
+  ASSERT_EQ(file.GetNumberOfMainPrograms(), 2);
+  EXPECT_EQ(LinesOf(*file.GetMainProgList().GetProgram(0)),
+            (std::vector<std::string>{"O5", "M99", "M98 P8010", "M99"}));
+  ASSERT_EQ(file.GetNumberOfSubPrograms(), 1);
+  EXPECT_EQ(file.GetSubProgList().GetProgram(0)->GetProgramNumber(), -1);
 }

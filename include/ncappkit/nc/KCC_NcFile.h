@@ -16,6 +16,9 @@
 //   collects the following lines until the next program-number line. With checkFirstBlock set, a program
 //   that holds the first block (M98 with P8010 on one line: Fanuc; a line starting N50 FIRST_BLOCK: Siemens)
 //   is a main program even when it ends with M99 or RET.
+// - The pending sub-program state (after M99 or RET) ends only at the next program-number line: a pending
+//   sub-program that meets M30 goes to the main-program list, and the fresh program started then is still
+//   pending, so the next number line (or the end of the text) files it as a sub-program, even when empty.
 // - A code directly followed by a digit (M300, M991) is no end; RET counts only at the start of a line.
 // - Whatever follows the last end: with keepUnfinished set it becomes a program of the sub-program list
 //   (also when it is empty), otherwise it is discarded.
@@ -29,8 +32,6 @@
 //   A lone CR is an ordinary character; CRs and LFs at the start of a line are treated as blanks.
 // - The line the program sees ends at its first NUL byte (as in a character buffer).
 // - An empty read at the very end of the file (after the last line end) is not a line.
-// - The pending sub-program state ends whenever a new current program is started (so a pending
-//   sub-program that meets M30 goes to the main-program list, and the next program starts fresh).
 // - SaveToFile writes text lines: LF line ends, CR LF on Windows.
 //
 // Copying a KCC_NcFile copies the two lists memberwise: the copies share their programs (see

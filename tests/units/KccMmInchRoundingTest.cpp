@@ -68,6 +68,15 @@ TEST(KccMmInchRounding, OtherQuantitiesUseTheirDigits) {
   EXPECT_DOUBLE_EQ(roundInch.RoundSpecificWeight(0.28361), 0.284);
 }
 
+TEST(KccMmInchRounding, RoundedValueIsTheStepCountDividedByTheScale) {
+  // 9 steps of 0.001: 9 / 1000.0 is the double of "0.009", while 9 * 0.001 would be one bit above it.
+  const KCC_MmInch mm(KCC_MmInch::eMmInchMm);
+  const KCC_MmInch_Rounding round(mm);
+  EXPECT_EQ(round.RoundAxis(0.0090004), 0.009);
+  EXPECT_EQ(round.RoundAxis(-0.0090004), -0.009);
+  EXPECT_EQ(round.RoundAxis(0.036), 0.036);
+}
+
 TEST(KccMmInchRounding, WeightInInchRoundsToWholeNumbers) {
   const KCC_MmInch inch(KCC_MmInch::eMmInchInch);
   const KCC_MmInch_Rounding round(inch);

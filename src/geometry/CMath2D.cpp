@@ -99,7 +99,8 @@ CMath2D::Cd2DArc::~Cd2DArc() = default;
 CMath2D::~CMath2D() = default;
 
 bool CMath2D::Cd2DPoint::operator==(const Cd2DPoint& other) const {
-  if (std::fabs(m_x - other.GetX()) > kPointEqualTolerance) {
+  // Written as "not within" so that a NaN coordinate makes the points unequal.
+  if (!(std::fabs(m_x - other.GetX()) <= kPointEqualTolerance)) {
     return false;
   }
   return std::fabs(m_y - other.GetY()) <= kPointEqualTolerance;

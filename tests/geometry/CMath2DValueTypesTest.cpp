@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <type_traits>
 
 #include "ncappkit/geometry/CMath2D.h"
@@ -54,6 +55,15 @@ TEST(CMath2DValueTypes, PointsWithin1e7AreEqual) {
   EXPECT_FALSE(Point(0, 0) == Point(2e-7, 0));
   EXPECT_TRUE(Point(0, 0) != Point(2e-7, 0));
   EXPECT_FALSE(Point(0, 0) == Point(0, 2e-7));
+}
+
+TEST(CMath2DValueTypes, PointWithANaNCoordinateIsNeverEqual) {
+  const double nan = std::nan("");
+  EXPECT_FALSE(Point(nan, 0) == Point(0, 0));
+  EXPECT_TRUE(Point(nan, 0) != Point(0, 0));
+  EXPECT_FALSE(Point(0, 0) == Point(nan, 0));
+  EXPECT_FALSE(Point(0, nan) == Point(0, 0));
+  EXPECT_TRUE(Point(0, nan) != Point(0, 0));
 }
 
 TEST(CMath2DValueTypes, PointDifferenceIsThisMinusOtherAndLeavesOperands) {

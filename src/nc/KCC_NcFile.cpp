@@ -262,9 +262,11 @@ class KCC_NcFile::Loader {
       m_budgetRanOut = true;
       return false;
     }
-    // Leading line ends count as blanks and go with them.
+    // Line ends at the very start of the line count as blanks; then the leading blanks go.
     std::size_t skip = 0;
-    while (skip < n && (IsBlank(p[skip]) || p[skip] == '\r' || p[skip] == '\n'))
+    while (skip < n && (p[skip] == '\r' || p[skip] == '\n'))
+      ++skip;
+    while (skip < n && IsBlank(p[skip]))
       ++skip;
     p += skip;
     n -= skip;

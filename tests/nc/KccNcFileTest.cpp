@@ -216,6 +216,17 @@ TEST(KccNcFile, LeadingBlanksAndLineEndsAreRemovedFromLines) {
   EXPECT_EQ(LinesOf(*file.GetMainProgList().GetProgram(0)), (std::vector<std::string>{"O5", "M30"}));
 }
 
+TEST(KccNcFile, OnlyLineEndsBeforeTheFirstBlankCountAsBlanks) {
+  // Line ends at the very start become blanks; one that follows a blank is part of the text, so " \rO7"
+  // is no program-number line.
+  KCC_NcFile file;
+  file.LoadFromStringList(Lines({" \rO7", "M30"}), false, false);
+  ASSERT_EQ(file.GetNumberOfMainPrograms(), 1);
+  KCC_NcFileProgram* main = file.GetMainProgList().GetProgram(0);
+  EXPECT_EQ(main->GetProgramNumber(), -1);
+  EXPECT_EQ(LinesOf(*main), (std::vector<std::string>{"\rO7", "M30"}));
+}
+
 TEST(KccNcFile, EmptyTextWithKeepUnfinishedGivesOneEmptyProgram) {
   KCC_NcFile file;
   KCC_NcFileProgram* result = file.LoadFromStringList(KCStringList(), false, true);

@@ -29,7 +29,8 @@
 // a file ends with the too-many-lines error. Read such files yourself and use LoadFromStringList. Choices
 // made where the text format leaves room:
 // - A line ends at LF; a CR directly before the LF belongs to the line end (CRLF files read like LF files).
-//   A lone CR is an ordinary character; CRs and LFs at the start of a line are treated as blanks.
+//   A lone CR is an ordinary character; CRs and LFs at the very start of a line (before any blank) are
+//   treated as blanks.
 // - The line the program sees ends at its first NUL byte (as in a character buffer).
 // - An empty read at the very end of the file (after the last line end) is not a line.
 // - SaveToFile writes text lines: LF line ends, CR LF on Windows.

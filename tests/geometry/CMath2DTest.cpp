@@ -637,3 +637,28 @@ TEST(CMath2D, NoTangentPointsFromInsideOnOrJustOutside) {
   EXPECT_FALSE(CMath2D::GetCircleTangentPoints(c, Point(3 + 5e-5, 0), t1, t2));
   EXPECT_TRUE(CMath2D::GetCircleTangentPoints(c, Point(3.01, 0), t1, t2));
 }
+
+TEST(CMath2D, ComputationsTakeTheRadiusFromTheStartPointOfAnInconsistentArc) {
+  // start at radius 2, end at radius 1: GetRadius says 1, every computation works with 2
+  const Arc arc(Arc::eArcCCW, 2, 0, 0, 1, 0, 0);
+  ASSERT_DOUBLE_EQ(arc.GetRadius(), 1.0);
+  Point p1, p2;
+  EXPECT_TRUE(CMath2D::GetHorLineIntersection(arc, 0, p1, p2));
+  ExpectPoint(p1, 2, 0);
+  ExpectPoint(p2, -2, 0);
+  EXPECT_TRUE(CMath2D::GetVerLineIntersection(arc, 2, p1, p2));  // touches the start-radius circle
+  ExpectPoint(p1, 2, 0, 0);
+  double x = 0, y = 0;
+  CMath2D::GetArcPointByOffset(arc, 1.0, x, y);
+  EXPECT_NEAR(x, 0, 1e-15);
+  EXPECT_NEAR(y, 2, 1e-15);
+  EXPECT_DOUBLE_EQ(CMath2D::GetArcLength(arc), kPi);
+  KC2DPointList points;
+  CMath2D::GetArcAnchorPoints(arc, points);
+  ASSERT_EQ(points.size(), 2u);  // the 0 degree point, then the left point of the (crossed) 90 degree flag
+  EXPECT_EQ(points[0], KC2DPoint(2, 0));
+  EXPECT_EQ(points[1], KC2DPoint(-2, 0));
+  Point out;
+  EXPECT_TRUE(CMath2D::ProjectedPointOnArcWc(arc, Point(0, 5), out));
+  ExpectPoint(out, 0, 2);
+}

@@ -350,3 +350,14 @@ TEST(CMathAuxShapes, ToolboxIsCopyableAndPolymorphic) {
   EXPECT_TRUE(std::is_copy_constructible<CMathAuxShapes>::value);
   EXPECT_TRUE(std::has_virtual_destructor<CMathAuxShapes>::value);
 }
+
+TEST(CMathAuxShapes, ArcIntersectionTakesTheRadiusFromTheStartPoint) {
+  // start at radius 2, end at radius 1 (a quarter turn counter-clockwise from 0 to 90 degrees)
+  const Arc arc(Arc::eArcCCW, 2, 0, 0, 1, 0, 0);
+  Point p1, p2(7, 7);
+  EXPECT_EQ(Aux::GetIntersection(arc, Aux::CAuxHorLine(1), p1, p2), 1);
+  ExpectPoint(p1, std::sqrt(3.0), 1);  // (-sqrt 3, 1) lies at 150 degrees, off the sweep
+  ExpectPoint(p2, 7, 7, 0);
+  EXPECT_EQ(Aux::GetIntersection(arc, Aux::CAuxVerLine(1.5), p1, p2), 1);
+  ExpectPoint(p1, 1.5, std::sqrt(1.75));
+}

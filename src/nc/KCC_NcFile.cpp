@@ -4,24 +4,12 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
-#include <filesystem>
 #include <memory>
 #include <string>
-#include <system_error>
 #include <utility>
 #include <vector>
 
 #include "ncappkit/foundation/KCFileMan.h"
-
-#if defined(_WIN32)
-#ifndef WIN32_LEAN_AND_MEAN
-#define WIN32_LEAN_AND_MEAN
-#endif
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
-#include <windows.h>
-#endif
 
 namespace {
 
@@ -223,17 +211,6 @@ class BufferedLineReader {
   bool m_failed = false;
 };
 
-// Move `from` over `to`, replacing an existing file in one step.
-bool MoveOverTarget(const std::string& from, const std::string& to) {
-#if defined(_WIN32)
-  return MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING) != 0;
-#else
-  std::error_code ec;
-  std::filesystem::rename(from, to, ec);
-  return !ec;
-#endif
-}
-
 struct FileCloser {
   void operator()(std::FILE* f) const {
     if (f != nullptr)
@@ -411,19 +388,9 @@ bool KCC_NcFile::SaveToFile(const KCString& fileName) {
 #endif
   const std::size_t lineEndLength = std::strlen(kLineEnd);
 
-  // Write into a fresh file beside the target, then let it replace the target.
-  const std::string target = fileName.str();
-  std::string temp;
-  FilePtr out;
-  for (int attempt = 0; attempt < 100 && !out; ++attempt) {
-    temp = target + ".~save" + std::to_string(attempt);
-    std::error_code existsError;
-    if (std::filesystem::exists(temp, existsError) || existsError)
-      continue;
-    out.reset(std::fopen(temp.c_str(), "wb"));
-    if (!out)
-      return false;
-  }
+  // The target itself is opened and truncated: a symbolic link is written through, and a file that cannot
+  // be opened for writing (read-only, a directory) makes the save fail before anything is written.
+  FilePtr out(std::fopen(fileName.c_str(), "wb"));
   if (!out)
     return false;
 
@@ -466,21 +433,7 @@ bool KCC_NcFile::SaveToFile(const KCString& fileName) {
   flush(true);
   if (std::fclose(out.release()) != 0)
     ok = false;
-
-  std::error_code ec;
-  // The new file keeps the permissions of the one it replaces.
-  const std::filesystem::file_status old = std::filesystem::status(target, ec);
-  if (ok && !ec && std::filesystem::is_regular_file(old)) {
-    std::filesystem::permissions(temp, old.permissions(), ec);
-  }
-  ec.clear();
-  if (ok && !MoveOverTarget(temp, target))
-    ok = false;
-  if (!ok) {
-    std::filesystem::remove(temp, ec);
-    return false;
-  }
-  return true;
+  return ok;
 }
 
 bool KCC_NcFile::SaveToFile(const KCString& directory, const KCString& fileName) {

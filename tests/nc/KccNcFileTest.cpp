@@ -428,6 +428,20 @@ TEST(KccNcFile, SaveKeepsThePermissionsOfTheReplacedFile) {
                                                              std::filesystem::perms::group_read);
 }
 
+TEST(KccNcFile, SaveWritesThroughASymbolicLinkIntoTheFileItNames) {
+#if defined(_WIN32)
+  GTEST_SKIP() << "symbolic links need extra rights on Windows";
+#endif
+  TempDir dir;
+  const std::string real = dir.WriteFile("real.nc", "old");
+  std::filesystem::create_symlink(real, dir.Path("link.nc"));
+  KCC_NcFile file;
+  file.LoadFromStringList(Lines({"O1", "M30"}), false, false);
+  ASSERT_TRUE(file.SaveToFile(dir.Path("link.nc")));
+  EXPECT_TRUE(std::filesystem::is_symlink(dir.Path("link.nc")));
+  EXPECT_EQ(dir.ReadFile("real.nc"), PlatformText("%\nO1\nM30\n%\n"));
+}
+
 TEST(KccNcFile, CopySharesTheProgramsWithTheOriginal) {
   KCC_NcFile file;
   file.LoadFromStringList(Lines({"O1", "M30", "O2", "M99"}), false, false);

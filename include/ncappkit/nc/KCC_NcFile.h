@@ -62,9 +62,9 @@ class NCAPPKIT_EXPORT KCC_NcFile {
   /// code set.
   KCC_NcFileProgram* LoadFromStringList(const KCStringList& text, bool checkFirstBlock, bool keepUnfinished);
 
-  /// Write the main programs, then the sub-programs, framed by '%' lines, to `fileName`. The text is written
-  /// to a new file beside the target which then replaces it, so a failed save leaves an existing file as it
-  /// was. False for an empty name or when the file cannot be written.
+  /// Write the main programs, then the sub-programs, framed by '%' lines, to `fileName`, which is opened for
+  /// writing and truncated (a symbolic link is written through). False for an empty name or when the file
+  /// cannot be opened or written.
   bool SaveToFile(const KCString& fileName);
   /// SaveToFile on the path that joins `directory` and `fileName`.
   bool SaveToFile(const KCString& directory, const KCString& fileName);

@@ -1,6 +1,14 @@
 #include "ncappkit/foundation/KCGeometry.h"
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
+
+namespace {
+// Point2DOnClosedLine: units in the last place of the line's largest coordinate that a point may lie off the
+// line and still count as on it.
+constexpr double kOnLineRoundingUnits = 8.0;
+}  // namespace
 
 KCGeometry::~KCGeometry() = default;
 
@@ -41,6 +49,14 @@ int KCGeometry::Point2DOnClosedLine(const KC2DLine& line, const KC2DPoint& point
   constexpr double kTolerance2 = kOnLineTolerance * kOnLineTolerance;
   const KC2DPoint s = line.GetStartPoint();
   const KC2DPoint e = line.GetEndPoint();
+  // A point computed on the line (a projected foot) is off it by a few units in the last place of its
+  // coordinates; far from the origin that exceeds kOnLineTolerance, so the distance allowed from the line
+  // grows with the size of the line's coordinates.
+  const double magnitude =
+      std::max({std::fabs(s.GetX()), std::fabs(s.GetY()), std::fabs(e.GetX()), std::fabs(e.GetY())});
+  const double lineTolerance =
+      std::max(kOnLineTolerance, kOnLineRoundingUnits * std::numeric_limits<double>::epsilon() * magnitude);
+  const double lineTolerance2 = lineTolerance * lineTolerance;
   const double px = point.GetX() - s.GetX();
   const double py = point.GetY() - s.GetY();
   if (px * px + py * py <= kTolerance2) {
@@ -59,7 +75,7 @@ int KCGeometry::Point2DOnClosedLine(const KC2DLine& line, const KC2DPoint& point
   }
   const double cross = dx * py - dy * px;  // distance from the infinite line times the length
   const double dot = dx * px + dy * py;    // position along the line times the length
-  if (cross * cross <= kTolerance2 * len2 && dot >= 0.0 && dot <= len2) {
+  if (cross * cross <= lineTolerance2 * len2 && dot >= 0.0 && dot <= len2) {
     return kInside;
   }
   return kOff;

@@ -69,6 +69,14 @@ TEST(KcGeometry, PointOnClosedLineAcceptsPointsWithinTheTolerance) {
   EXPECT_EQ(KCGeometry::Point2DOnClosedLine(line, KC2DPoint(5, 5e-10)), KCGeometry::kInside);
 }
 
+TEST(KcGeometry, ProjectedFootFarFromTheOriginIsOnTheClosedLine) {
+  const KC2DLine line(1e7, 1e7, 1e7 + 2, 1e7 + 3);
+  KC2DPoint foot;
+  ASSERT_TRUE(KCGeometry::ProjectPointOnLine(foot, line, KC2DPoint(1e7, 1e7 + 2)));
+  EXPECT_EQ(KCGeometry::Point2DOnClosedLine(line, foot), KCGeometry::kInside);
+  EXPECT_EQ(KCGeometry::Point2DOnClosedLine(line, KC2DPoint(1e7 + 1, 1e7 + 1.5 + 1e-6)), KCGeometry::kOff);
+}
+
 TEST(KcGeometry, PointOnZeroLengthLineIsOnlyItsOwnPoint) {
   const KC2DLine line(3, 3, 3, 3);
   EXPECT_EQ(KCGeometry::Point2DOnClosedLine(line, KC2DPoint(3, 3)), KCGeometry::kAtStart);

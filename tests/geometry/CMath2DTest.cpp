@@ -355,6 +355,14 @@ TEST(CMath2D, DistanceToSegmentUsesTheNearerEndBeyondIt) {
   EXPECT_DOUBLE_EQ(d, std::sqrt(41.0));
 }
 
+TEST(CMath2D, DistanceToSegmentFarFromTheOriginIsThePerpendicularDistance) {
+  // the foot (1e7 + 12/13, 1e7 + 18/13) lies inside the segment; rounding at this size puts it about 1e-9
+  // off the line, which must not send the distance to the nearer end (2)
+  const Line line(1e7, 1e7, 1e7 + 2, 1e7 + 3);
+  EXPECT_NEAR(CMath2D::DistancePoint2Line(line, Point(1e7, 1e7 + 2), true), 4 / std::sqrt(13.0), 1e-8);
+  EXPECT_NEAR(CMath2D::DistancePoint2Line(line, Point(1e7 + 2, 1e7 + 1), true), 4 / std::sqrt(13.0), 1e-8);
+}
+
 TEST(CMath2D, DistanceToAZeroLengthLineIsTheDistanceToItsPoint) {
   EXPECT_DOUBLE_EQ(CMath2D::DistancePoint2Line(Line(1, 1, 1, 1), Point(4, 5), true), 5.0);
   EXPECT_DOUBLE_EQ(CMath2D::DistancePoint2Line(Line(1, 1, 1, 1), Point(4, 5), false), 5.0);

@@ -361,3 +361,17 @@ TEST(CMathAuxShapes, ArcIntersectionTakesTheRadiusFromTheStartPoint) {
   EXPECT_EQ(Aux::GetIntersection(arc, Aux::CAuxVerLine(1.5), p1, p2), 1);
   ExpectPoint(p1, 1.5, std::sqrt(1.75));
 }
+
+TEST(CMathAuxShapes, CircleAndAuxLineJustMissingKeepTheNegativeDiscriminant) {
+  // y = x + b with b^2 = 2 + 1.25e-7 misses the unit circle by a hair: the discriminant is about -5e-7
+  const double b = std::sqrt(2 + 1.25e-7);
+  Point p1, p2;
+  // the aux circle operation does not snap it to 0: it reports true with NaN points
+  EXPECT_TRUE(Aux::GetIntersection(Aux::CAuxCircleImpl(0, 0, 1), Aux::CAuxLine(0, b, 45), p1, p2));
+  EXPECT_TRUE(std::isnan(p1.GetX()));
+  EXPECT_TRUE(std::isnan(p2.GetX()));
+  // the arc-line intersection of CMath2D snaps it and reports the touching point twice
+  EXPECT_TRUE(CMath2D::GetIntersection(Arc(Arc::eArcCCW, 1, 0, 1, 0, 0, 0), Line(0, b, 1, b + 1), p1, p2));
+  ExpectPoint(p1, -b / 2, b / 2);
+  ExpectPoint(p2, -b / 2, b / 2);
+}

@@ -498,3 +498,54 @@ TEST(KccNcFile, PendingStateOutlivesAFirstBlockMainProgram) {
   ASSERT_EQ(file.GetNumberOfSubPrograms(), 1);
   EXPECT_EQ(file.GetSubProgList().GetProgram(0)->GetProgramNumber(), -1);
 }
+
+TEST(KccNcFile, LoadWithoutProgramsLeavesTheListsOfTheLoadBeforeEmpty) {
+  KCC_NcFile file;
+  file.LoadFromStringList(Lines({"O1", "M30", "O2", "M99"}), false, false);
+  EXPECT_EQ(file.LoadFromStringList(Lines({"G0 X0"}), false, false), nullptr);
+  EXPECT_TRUE(file.HasFileWithoutNcStructureError());
+  EXPECT_TRUE(file.IsMainProgramsEmpty());
+  EXPECT_TRUE(file.IsSubProgramsEmpty());
+}
+
+TEST(KccNcFile, MissingFileKeepsTheNameOfTheFileLoadedBefore) {
+  TempDir dir;
+  const std::string path = dir.WriteFile("p.nc", "O1\nM30\n");
+  KCC_NcFile file;
+  ASSERT_NE(file.LoadFromFile(path, false, false), nullptr);
+  EXPECT_EQ(file.LoadFromFile(dir.Path("none.nc"), false, false), nullptr);
+  EXPECT_EQ(file.GetErrorCode(), 2);
+  EXPECT_EQ(file.GetLoadedFromFileId(), path);
+}
+
+TEST(KccNcFile, SuccessfulLoadResetsTheErrorCode) {
+  KCC_NcFile file;
+  file.LoadFromStringList(KCStringList(), false, false);
+  ASSERT_EQ(file.GetErrorCode(), 5);
+  ASSERT_NE(file.LoadFromStringList(Lines({"O1", "M30"}), false, false), nullptr);
+  EXPECT_EQ(file.GetErrorCode(), 0);
+}
+
+TEST(KccNcFile, StructureStaysFromAnEarlierLoadWhenNoFirstBlockIsFound) {
+  KCC_NcFile file;
+  file.LoadFromStringList(Lines({"O1", "N50 FIRST_BLOCK", "RET"}), true, false);
+  ASSERT_TRUE(file.IsSiemensNcFileStructure());
+  file.LoadFromStringList(Lines({"O2", "G0 X0", "M30"}), true, false);
+  EXPECT_TRUE(file.IsSiemensNcFileStructure());
+}
+
+TEST(KccNcFile, EachProgramLooksForItsOwnFirstBlockAndTheLastOneFoundSetsTheStructure) {
+  KCC_NcFile file;
+  file.LoadFromStringList(Lines({"O1", "M98 P8010", "M99", "O2", "N50FIRST_BLOCK", "RET"}), true, false);
+  EXPECT_EQ(file.GetNumberOfMainPrograms(), 2);
+  EXPECT_TRUE(file.IsSubProgramsEmpty());
+  EXPECT_TRUE(file.IsSiemensNcFileStructure());
+}
+
+TEST(KccNcFile, SaveOfOneEmptyProgramWritesASinglePercentLine) {
+  TempDir dir;
+  KCC_NcFile file;
+  ASSERT_NE(file.LoadFromStringList(KCStringList(), false, true), nullptr);
+  ASSERT_TRUE(file.SaveToFile(dir.Path("o.nc")));
+  EXPECT_EQ(dir.ReadFile("o.nc"), PlatformText("%\n"));
+}

@@ -587,3 +587,37 @@ TEST(KccParseNc, NamedParameterWithEmptyValueFails) {
   double dv = 0.0;
   EXPECT_FALSE(parser.GetNcTextParameter("DEPTH =   ", name, iv, dv));
 }
+
+TEST(KccParseNc, IntegerPartWrapsAt32Bits) {
+  KCC_ParseNc parser;
+  ASSERT_TRUE(parser.DecodeISOLine("N4294967297"));
+  int n = 0;
+  ASSERT_TRUE(parser.GetNCommand(n));
+  EXPECT_EQ(n, 1);
+}
+
+TEST(KccParseNc, DigitsAfterAWrapToNegativeAreSubtracted) {
+  // 2147483648 wraps to -2147483648; the next digit then goes the negative way: -21474836481 wraps to -1.
+  KCC_ParseNc parser;
+  ASSERT_TRUE(parser.DecodeISOLine("N21474836481"));
+  int n = 0;
+  ASSERT_TRUE(parser.GetNCommand(n));
+  EXPECT_EQ(n, -1);
+}
+
+TEST(KccParseNc, TenthFractionDigitUsesTheWrappedDivisor) {
+  // The divisor is a 32-bit integer: after nine fraction digits 10^10 wraps to 1410065408.
+  KCC_ParseNc parser;
+  ASSERT_TRUE(parser.DecodeISOLine("X0.0000000001"));
+  double x = 0.0;
+  ASSERT_TRUE(parser.GetXCommand(x));
+  EXPECT_DOUBLE_EQ(x, 1.0 / 1410065408.0);
+}
+
+TEST(KccParseNc, FractionOfANegativeWordIsSubtracted) {
+  KCC_ParseNc parser;
+  ASSERT_TRUE(parser.DecodeISOLine("X-12.25"));
+  double x = 0.0;
+  ASSERT_TRUE(parser.GetXCommand(x));
+  EXPECT_DOUBLE_EQ(x, -12.25);
+}

@@ -278,3 +278,50 @@ TEST(KccNcProgramParametersCreator, MessagesComeFromTheClientsFile) {
   CreatorProbe creator(messages);
   EXPECT_EQ(creator.GetKccMessage("NcParams", "TooLarge"), "Value too large");
 }
+
+TEST(CNcParamDouble, NegativeZeroKeepsItsSignWhenTheZerosAreRemoved) {
+  // Only trailing zeros and the point go; the text is not cleaned further.
+  KCString line("#1=5");
+  CNcParamDouble param;
+  param.SetDigitsAfter(3);
+  param.SetParam(-0.0001, &line);
+  ASSERT_TRUE(param.UpdateNcLine());
+  EXPECT_EQ(line, "#1=-0");
+}
+
+TEST(CNcParamDouble, NegativeDigitsWriteTheShortestForm) {
+  KCString line("R10 = 4 (DEPTH");
+  CNcParamDouble param;
+  param.SetDigitsAfter(-1);
+  param.SetParam(0.125, &line);
+  ASSERT_TRUE(param.UpdateNcLine());
+  EXPECT_EQ(line, "R10=0.125(DEPTH)");
+}
+
+TEST(CNcParamIsoCommand, AddressIsSearchedOnlyAfterTheCommand) {
+  KCString line("X1 G01 Y5 X10");
+  CNcParamIsoCommand param;
+  param.SetParam("G01", 'X', 2.0, &line);
+  ASSERT_TRUE(param.UpdateNcLine());
+  EXPECT_EQ(line, "X1 G01 Y5 X2");
+}
+
+TEST(CNcParamIsoCommand, ValueTextIsCleanedOfANegativeZero) {
+  KCString line("G00 Z5.");
+  CNcParamIsoCommand param;
+  param.SetParam("G00", 'Z', -0.0, &line);
+  ASSERT_TRUE(param.UpdateNcLine());
+  EXPECT_EQ(line, "G00 Z0");
+}
+
+TEST(KccNcProgramParametersCreator, IntegerParameterWritesItsDecimalText) {
+  TableMessages messages;
+  KCC_NcProgramParametersCreator creator(messages);
+  EXPECT_EQ(creator.DumpParameter("#110", -4, "(COUNT)"), "#110=-4(COUNT)");
+}
+
+TEST(KccNcProgramParametersCreator, CommentWithOnlyAClosingBracketGetsTheOpeningOne) {
+  TableMessages messages;
+  KCC_NcProgramParametersCreator creator(messages);
+  EXPECT_EQ(creator.DumpParameter("R1", "2", "NOTE)"), "R1=2(NOTE)");
+}

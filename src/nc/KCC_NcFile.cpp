@@ -4,11 +4,13 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "foundation/KCReplaceFile.h"
 #include "ncappkit/foundation/KCFileMan.h"
 
 namespace {
@@ -388,25 +390,29 @@ bool KCC_NcFile::SaveToFile(const KCString& fileName) {
 #endif
   const std::size_t lineEndLength = std::strlen(kLineEnd);
 
-  // The target itself is opened and truncated: a symbolic link is written through, and a file that cannot
-  // be opened for writing (read-only, a directory) makes the save fail before anything is written.
-  FilePtr out(std::fopen(fileName.c_str(), "wb"));
-  if (!out)
-    return false;
+  // The target must be open for writing, as a plain truncating save needs it: a read-only file, a directory
+  // or a missing folder fails here, before anything is written. Opening for appending tests that without
+  // cutting the old text short (a missing file is created, as the save would create it).
+  {
+    FilePtr probe(std::fopen(fileName.c_str(), "ab"));
+    if (!probe)
+      return false;
+  }
 
-  std::string block;
-  bool ok = true;
-  auto flush = [&](bool force) {
-    if (block.size() >= (std::size_t{1} << 20) || (force && !block.empty())) {
-      if (std::fwrite(block.data(), 1, block.size(), out.get()) != block.size())
-        ok = false;
-      block.clear();
+  std::string text;
+  std::size_t total = 2 * (1 + lineEndLength);
+  for (const KCC_NcFileProgramList* list : {&m_mainPrograms, &m_subPrograms}) {
+    for (int i = 0; i < list->GetNumberOfPrograms(); ++i) {
+      if (const KCC_NcFileProgram* program = list->GetProgram(i)) {
+        for (const KCString& line : program->GetStringList())
+          total += line.size() + lineEndLength;
+      }
     }
-  };
+  }
+  text.reserve(total);
   auto writeLine = [&](const KCString& line) {
-    block.append(line.str());
-    block.append(kLineEnd, lineEndLength);
-    flush(false);
+    text.append(line.str());
+    text.append(kLineEnd, lineEndLength);
   };
 
   bool wroteAny = false;
@@ -430,7 +436,26 @@ bool KCC_NcFile::SaveToFile(const KCString& fileName) {
   }
   if (wroteAny && !lastWasPercent)
     writeLine("%");
-  flush(true);
+
+  // The new text goes to a file beside the target that then replaces it, so a save that fails half way
+  // (disk full, lost network share) leaves the old program file as it was. A symbolic link is followed, so
+  // the file it names is replaced and the link stays.
+  std::string target = fileName.str();
+  std::error_code ec;
+  if (std::filesystem::is_symlink(target, ec)) {
+    const std::filesystem::path resolved = std::filesystem::canonical(target, ec);
+    if (!ec)
+      target = resolved.string();
+  }
+  if (ncappkit_detail::ReplaceFileContents(target, text))
+    return true;
+
+  // No file can be made beside the target (a folder where only the target itself is writable): write the
+  // target in place.
+  FilePtr out(std::fopen(fileName.c_str(), "wb"));
+  if (!out)
+    return false;
+  bool ok = std::fwrite(text.data(), 1, text.size(), out.get()) == text.size();
   if (std::fclose(out.release()) != 0)
     ok = false;
   return ok;

@@ -5,6 +5,7 @@
 #include <fcntl.h>
 #include <io.h>
 #include <share.h>
+#include <sys/stat.h>
 #else
 #include <sys/stat.h>
 #include <unistd.h>
@@ -197,6 +198,30 @@ TEST(KccNcFileBadInput, DirectoryIsNoFile) {
   KCC_NcFile file;
   EXPECT_EQ(file.LoadFromFile(dir.Path(), false, false), nullptr);
   EXPECT_TRUE(file.HasFileNotFoundError());
+}
+
+TEST(KccNcFileBadInput, SaveToAReadOnlyFileFailsAndKeepsIt) {
+#if defined(_WIN32)
+  TempDir dir;
+  const std::string path = dir.WriteFile("locked.nc", "old");
+  ASSERT_EQ(::_chmod(path.c_str(), _S_IREAD), 0);
+  KCC_NcFile file;
+  file.LoadFromStringList(KCStringList{"O1", "M30"}, false, false);
+  EXPECT_FALSE(file.SaveToFile(path));
+  ::_chmod(path.c_str(), _S_IREAD | _S_IWRITE);
+  EXPECT_EQ(dir.ReadFile("locked.nc"), "old");
+#else
+  if (::geteuid() == 0)
+    GTEST_SKIP() << "running as root: every file is writable";
+  TempDir dir;
+  const std::string path = dir.WriteFile("locked.nc", "old");
+  ASSERT_EQ(::chmod(path.c_str(), S_IRUSR), 0);
+  KCC_NcFile file;
+  file.LoadFromStringList(KCStringList{"O1", "M30"}, false, false);
+  EXPECT_FALSE(file.SaveToFile(path));
+  ::chmod(path.c_str(), S_IRUSR | S_IWUSR);
+  EXPECT_EQ(dir.ReadFile("locked.nc"), "old");
+#endif
 }
 
 TEST(KccNcFileBadInput, UnreadableFileIsAnOpenError) {

@@ -408,7 +408,18 @@ TEST(KccNcFile, SaveLeavesNoTemporaryFileBehind) {
   KCC_NcFile file;
   file.LoadFromStringList(Lines({"O1", "M30"}), false, false);
   ASSERT_TRUE(file.SaveToFile(dir.Path("o.nc")));
-  EXPECT_FALSE(dir.Exists("o.nc.~save0"));
+  EXPECT_EQ(dir.EntryCount(), 1);
+}
+
+TEST(KccNcFile, SaveReplacesTheTextOfAnExistingFile) {
+  TempDir dir;
+  const std::string path =
+      dir.WriteFile("o.nc", "%\nO9\nG00 X1 Y1 Z1 (a much longer old program text)\nM30\n%\n");
+  KCC_NcFile file;
+  file.LoadFromStringList(Lines({"O1", "M30"}), false, false);
+  ASSERT_TRUE(file.SaveToFile(path));
+  EXPECT_EQ(dir.ReadFile("o.nc"), PlatformText("%\nO1\nM30\n%\n"));
+  EXPECT_EQ(dir.EntryCount(), 1);
 }
 
 TEST(KccNcFile, SaveKeepsThePermissionsOfTheReplacedFile) {

@@ -62,9 +62,11 @@ class NCAPPKIT_EXPORT KCC_NcFile {
   /// code set.
   KCC_NcFileProgram* LoadFromStringList(const KCStringList& text, bool checkFirstBlock, bool keepUnfinished);
 
-  /// Write the main programs, then the sub-programs, framed by '%' lines, to `fileName`, which is opened for
-  /// writing and truncated (a symbolic link is written through). False for an empty name or when the file
-  /// cannot be opened or written.
+  /// Write the main programs, then the sub-programs, framed by '%' lines, to `fileName`. False for an empty
+  /// name or when the file cannot be opened for writing (read-only, a directory, a missing folder); then
+  /// nothing is written. The text goes to a file beside the target that replaces it once complete, so a save
+  /// that fails half way keeps the old file; a symbolic link stays and the file it names is replaced. Where
+  /// no file can be made beside the target, the target is written in place.
   bool SaveToFile(const KCString& fileName);
   /// SaveToFile on the path that joins `directory` and `fileName`.
   bool SaveToFile(const KCString& directory, const KCString& fileName);

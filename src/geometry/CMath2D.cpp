@@ -533,8 +533,12 @@ bool CMath2D::GetIntersectPoint(const KCI_d2DLine& a, const KCI_d2DLine& b, KCI_
   const double dya = a.GetEndY() - asy;
   const double dxb = b.GetEndX() - bsx;
   const double dyb = b.GetEndY() - bsy;
+  // Each case is tested as stated, so a NaN difference (neither above nor at most the tolerance) matches
+  // none.
   const bool aSloped = std::fabs(dxa) > kLineLineTolerance;
   const bool bSloped = std::fabs(dxb) > kLineLineTolerance;
+  const bool aVertical = std::fabs(dxa) <= kLineLineTolerance;
+  const bool bVertical = std::fabs(dxb) <= kLineLineTolerance;
   if (aSloped && bSloped) {
     const double ma = dya / dxa;
     const double mb = dyb / dxb;
@@ -547,21 +551,21 @@ bool CMath2D::GetIntersectPoint(const KCI_d2DLine& a, const KCI_d2DLine& b, KCI_
     out.SetY(out.GetX() * ma + ba);
     return true;
   }
-  if (!aSloped && bSloped) {
+  if (aVertical && bSloped) {
     const double mb = dyb / dxb;
     const double bb = bsy - bsx * mb;
     out.SetX(asx);
     out.SetY(out.GetX() * mb + bb);
     return true;
   }
-  if (aSloped && !bSloped) {
+  if (aSloped && bVertical) {
     const double ma = dya / dxa;
     const double ba = asy - asx * ma;
     out.SetX(bsx);
     out.SetY(out.GetX() * ma + ba);
     return true;
   }
-  return false;  // both vertical
+  return false;  // both vertical (or a NaN difference)
 }
 
 bool CMath2D::GetIntersectPoint(const KCI_d2DLine& a, const KCI_d2DLine& b, KCI_d2DPoint& out, bool onA,

@@ -116,12 +116,15 @@ TEST(GeometryDegenerateInput, PointAtTheCentre) {
 
 // ----- NaN and infinity ------------------------------------------------------------------------------------
 
-TEST(GeometryDegenerateInput, NaNLineCountsAsVerticalAndGivesANaNPoint) {
-  // |NaN| > 1e-8 is false, so a line with a NaN x difference takes the vertical case
+TEST(GeometryDegenerateInput, LineWithANaNXDifferenceIsNeitherSlantedNorVerticalAndHasNoIntersection) {
+  // |NaN| is neither above 1e-8 (slanted) nor at most 1e-8 (vertical): no case applies, the result is false
   Point out(7, 7);
-  EXPECT_TRUE(CMath2D::GetIntersectPoint(Line(kNaN, 0, 1, 1), Line(0, 1, 1, 0), out));
-  EXPECT_TRUE(std::isnan(out.GetX()));
+  EXPECT_FALSE(CMath2D::GetIntersectPoint(Line(kNaN, 0, 1, 1), Line(0, 1, 1, 0), out));
+  EXPECT_FALSE(CMath2D::GetIntersectPoint(Line(0, 0, kNaN, 1), Line(0, 1, 1, 0), out));
+  EXPECT_FALSE(CMath2D::GetIntersectPoint(Line(0, 1, 1, 0), Line(0, 0, kNaN, 1), out));
   EXPECT_FALSE(CMath2D::GetIntersectPoint(Line(kNaN, 0, 1, 1), Line(2, 1, 2, 0), out));
+  EXPECT_EQ(out.GetX(), 7.0);
+  EXPECT_EQ(out.GetY(), 7.0);
 }
 
 TEST(GeometryDegenerateInput, NaNArcAcceptsOnlyItsEndDirection) {

@@ -85,7 +85,11 @@ KCString KCFileMan::GetFullFileVersion(const KCString& path, bool withBuild) {
     return KCString();
   VS_FIXEDFILEINFO* info = nullptr;
   UINT infoLength = 0;
-  if (!VerQueryValueA(data.data(), "\\", reinterpret_cast<LPVOID*>(&info), &infoLength) || info == nullptr) {
+  // The root block is the fixed part with the numeric file version; a block of another size or without the
+  // fixed part's signature is a damaged resource, which gives no version like a missing one.
+  constexpr DWORD kFixedFileInfoSignature = 0xFEEF04BD;
+  if (!VerQueryValueA(data.data(), "\\", reinterpret_cast<LPVOID*>(&info), &infoLength) || info == nullptr ||
+      infoLength < sizeof(VS_FIXEDFILEINFO) || info->dwSignature != kFixedFileInfoSignature) {
     return KCString();
   }
   KCString text = KCString(static_cast<int>(HIWORD(info->dwFileVersionMS)), false) + "." +

@@ -52,6 +52,13 @@ Created WriteNewFile(const std::string& temporary, const std::string& content, c
 }
 
 bool MoveOver(const std::string& from, const std::string& to) {
+  // Windows does not replace a file with the read-only attribute. Asked for directly, because where the
+  // attribute only mirrors file permissions (wine run by an administrator) the move would still succeed.
+  const DWORD attributes = GetFileAttributesA(to.c_str());
+  if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0) {
+    SetLastError(ERROR_ACCESS_DENIED);
+    return false;
+  }
   return MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
 }
 

@@ -10,6 +10,12 @@
 #include <utility>
 #include <vector>
 
+#if defined(_WIN32)
+#include <io.h>
+
+#include <cerrno>
+#endif
+
 #include "foundation/KCReplaceFile.h"
 #include "ncappkit/foundation/KCFileMan.h"
 
@@ -390,6 +396,13 @@ bool KCC_NcFile::SaveToFile(const KCString& fileName) {
 #endif
   const std::size_t lineEndLength = std::strlen(kLineEnd);
 
+#if defined(_WIN32)
+  // Windows never writes into a file with the read-only attribute (_access checks it). Asked for directly,
+  // because where the attribute only mirrors file permissions (wine run by an administrator) opening the
+  // file for writing may still succeed.
+  if (_access(fileName.c_str(), 2) != 0 && errno == EACCES)
+    return false;
+#endif
   // The target must be open for writing, as a plain truncating save needs it: a read-only file, a directory
   // or a missing folder fails here, before anything is written. Opening for appending tests that without
   // cutting the old text short (a missing file is created, as the save would create it).

@@ -46,7 +46,7 @@ if [[ ${#missing[@]} -gt 0 ]]; then
   "${sudo[@]}" apt-get update -qq
   DEBIAN_FRONTEND=noninteractive "${sudo[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}"
 fi
-x86_64-w64-mingw32-g++-posix --version | head -n 1
+x86_64-w64-mingw32-g++-posix --version | sed -n 1p  # sed reads to the end: no broken pipe
 wine --version 2>/dev/null
 
 # --- wine -------------------------------------------------------------------------------------------------

@@ -111,8 +111,10 @@ failed_tests() {
        /<system-out><\/system-out>/ { silent = 1 }
        /<\/testcase>/ { if (failed) print (silent ? "silent " : "loud ") name; failed = 0 }' "$1"
 }
-silent=$(failed_tests "$junit" | sed -n 's/^silent //p')
-if [[ $tests_ok -eq 0 && -n "$silent" ]] && ! failed_tests "$junit" | grep -q '^loud '; then
+failures=$(failed_tests "$junit")
+silent=$(sed -n 's/^silent //p' <<<"$failures")
+loud=$(sed -n 's/^loud //p' <<<"$failures")
+if [[ $tests_ok -eq 0 && -n "$silent" && -z "$loud" ]]; then
   # Only silent failures: run exactly those tests once more; a test that fails again fails the lane.
   echo "windows lane: running again the tests that failed without printing anything:" $silent
   pattern=$(sed 's/\./\\./g' <<<"$silent" | paste -sd '|' -)  # test names hold letters, digits, _ . /

@@ -284,3 +284,14 @@ bool SameFile(const std::string& a, const std::string& b) {
   std::error_code ec;
   return fs::exists(a, ec) && fs::exists(b, ec) && fs::equivalent(a, b, ec) && !ec;
 }
+
+int ParseProgramNumberArguments(const char* command, const NcCommandLine& cl, std::set<int>& numbers,
+                                std::ostream& err) {
+  for (std::size_t i = 1; i < cl.positionals.size(); ++i) {
+    int number = 0;
+    if (!ParseProgramNumberArgument(cl.positionals[i], number))
+      return NcUsageError(command, "'" + cl.positionals[i] + "' is no program number", err);
+    numbers.insert(number);
+  }
+  return -1;
+}

@@ -87,6 +87,11 @@ std::string JsonString(const std::string& text);
 /// Parse a program number argument ("1000", "O1000", "O0012"); false when it is none.
 bool ParseProgramNumberArgument(const std::string& text, int& number);
 
+/// Read the program numbers given after FILE (the second and later positional arguments) into `numbers`.
+/// Returns -1 when every one is a program number, else the usage exit code after a message to `err`.
+int ParseProgramNumberArguments(const char* command, const NcCommandLine& cl, std::set<int>& numbers,
+                                std::ostream& err);
+
 /// A program number as written in file names and tables: at least four digits ("0012"); "-" for none.
 std::string ProgramNumberText(int number);
 

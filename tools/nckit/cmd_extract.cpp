@@ -39,13 +39,8 @@ int RunExtract(const NckitArgs& args, std::ostream& out, std::ostream& err) {
   if (cl.positionals.size() < 2)
     return NcUsageError(kCommand, "expects FILE and at least one NUMBER", err);
   std::set<int> wanted;
-  for (std::size_t i = 1; i < cl.positionals.size(); ++i) {
-    int number = 0;
-    if (!ParseProgramNumberArgument(cl.positionals[i], number)) {
-      return NcUsageError(kCommand, "'" + cl.positionals[i] + "' is no program number", err);
-    }
-    wanted.insert(number);
-  }
+  if (int rc = ParseProgramNumberArguments(kCommand, cl, wanted, err); rc >= 0)
+    return rc;
   const std::string& path = cl.positionals[0];
   NcLoadResult loaded;
   if (int rc = LoadNcFile(kCommand, path, cl.LoadOptions(), loaded, err); rc >= 0)

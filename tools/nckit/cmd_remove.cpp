@@ -37,13 +37,8 @@ int RunRemove(const NckitArgs& args, std::ostream& out, std::ostream& err) {
   if (cl.values.count("-o") == 0 || cl.values["-o"].empty())
     return NcUsageError(kCommand, "needs -o OUT", err);
   std::set<int> unwanted;
-  for (std::size_t i = 1; i < cl.positionals.size(); ++i) {
-    int number = 0;
-    if (!ParseProgramNumberArgument(cl.positionals[i], number)) {
-      return NcUsageError(kCommand, "'" + cl.positionals[i] + "' is no program number", err);
-    }
-    unwanted.insert(number);
-  }
+  if (int rc = ParseProgramNumberArguments(kCommand, cl, unwanted, err); rc >= 0)
+    return rc;
   const std::string& path = cl.positionals[0];
   NcLoadResult loaded;
   if (int rc = LoadNcFile(kCommand, path, cl.LoadOptions(), loaded, err); rc >= 0)

@@ -112,3 +112,17 @@ TEST_F(NckitCheck, HelpExitsZero) {
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_EQ(r.out.rfind("usage: nckit check FILE", 0), 0u);
 }
+
+#ifndef _WIN32
+TEST_F(NckitCheck, DeviceThatNeverEndsIsRefusedNotRead) {
+  const ChildResult r = Check({"/dev/zero"});
+  EXPECT_EQ(r.exitCode, 2);
+  EXPECT_EQ(r.err, "nckit check: /dev/zero: not a regular file (a device, pipe or socket)\n");
+}
+
+TEST_F(NckitCheck, EmptyDeviceIsNotReportedAsAMissingFile) {
+  const ChildResult r = Check({"/dev/null"});
+  EXPECT_EQ(r.exitCode, 2);
+  EXPECT_EQ(r.err, "nckit check: /dev/null: not a regular file (a device, pipe or socket)\n");
+}
+#endif

@@ -158,6 +158,11 @@ int LoadNcFile(const char* command, const std::string& path, const NcLoadOptions
     err << "nckit " << command << ": " << path << ": is a directory, not an NC file\n";
     return kNckitUsage;
   }
+  // A device or a pipe may never end (/dev/zero) or block the reader, so only regular files are read.
+  if (!fs::is_regular_file(status)) {
+    err << "nckit " << command << ": " << path << ": not a regular file (a device, pipe or socket)\n";
+    return kNckitUsage;
+  }
 
   result.file.reset(new KCC_NcFile());
   if (options.noLineLimit) {

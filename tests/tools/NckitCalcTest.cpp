@@ -156,3 +156,29 @@ TEST_F(NckitCalc, HelpDescribesTheCommand) {
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_EQ(r.out.rfind("usage: nckit calc", 0), 0u);
 }
+
+TEST_F(NckitCalc, UnknownOptionIsAUsageError) {
+  const ChildResult r = Calc({"--precise", "1+2"});
+  EXPECT_EQ(r.exitCode, 2);
+  EXPECT_EQ(r.out, "");
+  EXPECT_EQ(r.err, "nckit calc: unknown option '--precise' (try 'nckit calc --help')\n");
+}
+
+TEST_F(NckitCalc, ShortHelpOptionShowsTheHelp) {
+  const ChildResult r = Calc({"-h"});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(r.out.rfind("usage: nckit calc", 0), 0u);
+  EXPECT_EQ(r.err, "");
+}
+
+TEST_F(NckitCalc, HelpAfterTheExpressionShowsTheHelp) {
+  const ChildResult r = Calc({"1+2", "--help"});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(r.out.rfind("usage: nckit calc", 0), 0u);
+}
+
+TEST_F(NckitCalc, OptionLikeTextAfterDoubleDashIsTheExpression) {
+  const ChildResult r = Calc({"--", "--precise"});
+  EXPECT_EQ(r.exitCode, 1);
+  EXPECT_EQ(r.err, "nckit calc: unknown function 'precise'\n");
+}

@@ -61,6 +61,7 @@ std::string FirstUnknownName(const std::string& text) {
 
 void PrintHelp(std::ostream& out) {
   out << "usage: nckit calc [--] EXPRESSION...\n"
+         "       nckit calc --help | -h\n"
          "Evaluates EXPRESSION (several arguments are joined with blanks) and prints its value.\n"
          "Numbers, * / + -, round or square brackets and SQRT, SIN, COS, TAN (radians, before a bracket).\n"
          "Operators go by a fixed priority of the characters: all '*', then '/', then '+', then '-'.\n"
@@ -69,12 +70,22 @@ void PrintHelp(std::ostream& out) {
 
 int RunCalc(const NckitArgs& args, std::ostream& out, std::ostream& err) {
   std::size_t first = 0;
-  if (!args.empty() && args[0] == "--help") {
-    PrintHelp(out);
-    return kNckitOk;
-  }
-  if (!args.empty() && args[0] == "--")
+  if (!args.empty() && args[0] == "--") {
     first = 1;
+  } else {
+    // A single '-' starts an expression ("-3*2"), but "--" followed by a letter can only be an option:
+    // as an expression it would be a unary minus followed by an operator, which cannot be evaluated.
+    for (const std::string& arg : args) {
+      if (arg == "--help" || arg == "-h") {
+        PrintHelp(out);
+        return kNckitOk;
+      }
+      if (arg.size() > 2 && arg[0] == '-' && arg[1] == '-' && IsLetter(arg[2])) {
+        err << "nckit calc: unknown option '" << arg << "' (try 'nckit calc --help')\n";
+        return kNckitUsage;
+      }
+    }
+  }
   if (first >= args.size()) {
     err << "nckit calc: missing expression (try 'nckit calc --help')\n";
     return kNckitUsage;

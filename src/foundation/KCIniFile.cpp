@@ -11,12 +11,16 @@
 //   order (searching all occurrences of the section); a write changes that first match. A key that is not
 //   there yet goes after the last key of the first occurrence of its section (right after the header when it
 //   has no keys); a missing section is appended at the end of the file, after a blank line.
+// - A line that starts with '[' but has no ']' is kept as it is and ends the section above it: the key lines
+//   after it belong to no section until the next header, so they are never read or changed, and a new key of
+//   the section above goes before it.
 // - Updating a key keeps its line up to and including '=' and the blanks after '=' as they were.
-// - The file's line end (CRLF when its first line ends with CRLF, otherwise LF) is used for every line of
-//   the rewrite, and the last line gets one too. A new file gets CRLF on Windows and LF elsewhere. A UTF-8
+// - Lines end with LF, CRLF or a lone CR. The file's first line end (CRLF, LF or CR) is used for every line
+//   of the rewrite, and the last line gets one too. A new file gets CRLF on Windows and LF elsewhere. A UTF-8
 //   byte-order mark at the start is kept.
 // - Every call reads the file afresh, so changes by other programs are seen. A file that exists but cannot
-//   be read reads as empty and is never overwritten: writes to it fail.
+//   be read reads as empty and is never overwritten: writes to it fail. A file name with a NUL byte names no
+//   file (the system would see only the part before it): it reads as empty and writes fail.
 // - Writes that could not be read back as written fail without touching the file: a section name with ']'
 //   or a line break, an empty key, a key with '=' or a line break or starting with '[', ';' or '#', and a
 //   value with a line break.
@@ -43,7 +47,7 @@ constexpr const char* kNewFileLineEnd = "\n";
 #endif
 
 struct IniLine {
-  enum class Kind { Other, Section, Key };
+  enum class Kind { Other, Section, UnclosedSection, Key };
   Kind kind = Kind::Other;
   std::string text;  // the line as it stands in the file, without line end
   KCString name;     // trimmed section name or key
@@ -64,6 +68,8 @@ IniLine ParseLine(const std::string& text) {
       line.kind = IniLine::Kind::Section;
       line.name = trimmed.Mid(1, static_cast<int>(close) - 1);
       line.name.Trim();
+    } else {
+      line.kind = IniLine::Kind::UnclosedSection;  // names no section, but ends the one above
     }
     return line;
   }
@@ -106,6 +112,8 @@ class IniText {
       const IniLine& line = m_lines[i];
       if (line.kind == IniLine::Kind::Section) {
         inSection = line.name.EqualsNoCase(sectionName);
+      } else if (line.kind == IniLine::Kind::UnclosedSection) {
+        inSection = false;
       } else if (inSection && line.kind == IniLine::Kind::Key && line.name.EqualsNoCase(keyName)) {
         return static_cast<int>(i);
       }
@@ -161,6 +169,10 @@ class IniText {
 
  private:
   void Load() {
+    if (m_fileName.find('\0') != std::string::npos) {
+      m_state = State::Unreadable;
+      return;
+    }
     std::error_code error;
     const std::filesystem::path path(m_fileName);
     if (!std::filesystem::exists(path, error)) {
@@ -182,20 +194,30 @@ class IniText {
       m_bom = true;
       content.erase(0, 3);
     }
-    const std::size_t firstBreak = content.find('\n');
+    // A line ends at LF, at CRLF or at a lone CR; the first line end found is the file's style.
+    const auto lineEndAt = [&content](std::size_t at) -> std::size_t {
+      if (at >= content.size())
+        return 0;
+      return (content[at] == '\r' && at + 1 < content.size() && content[at + 1] == '\n') ? 2 : 1;
+    };
+    const std::size_t firstBreak = content.find_first_of("\r\n");
     if (firstBreak != std::string::npos)
-      m_lineEnd = (firstBreak > 0 && content[firstBreak - 1] == '\r') ? "\r\n" : "\n";
+      m_lineEnd = content.substr(firstBreak, lineEndAt(firstBreak));
     std::size_t start = 0;
     while (start < content.size()) {
-      std::size_t end = content.find('\n', start);
+      std::size_t end = content.find_first_of("\r\n", start);
       if (end == std::string::npos)
         end = content.size();
-      std::size_t stop = end;
-      if (stop > start && content[stop - 1] == '\r')
-        --stop;
-      m_lines.push_back(ParseLine(content.substr(start, stop - start)));
-      start = end + 1;
+      m_lines.push_back(ParseLine(content.substr(start, end - start)));
+      start = end + lineEndAt(end);
+      if (end == content.size())
+        break;
     }
+  }
+
+  // True for a header line, closed or not: either ends the section above it.
+  static bool StartsSection(IniLine::Kind kind) noexcept {
+    return kind == IniLine::Kind::Section || kind == IniLine::Kind::UnclosedSection;
   }
 
   // Where a new key of `section` goes, or -1 when the section is not in the file.
@@ -204,7 +226,7 @@ class IniText {
     int lastKey = -1;
     if (section.IsEmpty()) {
       // The nameless section: the lines before the first header.
-      for (std::size_t i = 0; i < m_lines.size() && m_lines[i].kind != IniLine::Kind::Section; ++i) {
+      for (std::size_t i = 0; i < m_lines.size() && !StartsSection(m_lines[i].kind); ++i) {
         if (m_lines[i].kind == IniLine::Kind::Key)
           lastKey = static_cast<int>(i);
       }
@@ -212,10 +234,10 @@ class IniText {
     }
     for (std::size_t i = 0; i < m_lines.size(); ++i) {
       const IniLine& line = m_lines[i];
-      if (line.kind == IniLine::Kind::Section) {
+      if (StartsSection(line.kind)) {
         if (header >= 0)
           break;  // end of the first occurrence
-        if (line.name.EqualsNoCase(section))
+        if (line.kind == IniLine::Kind::Section && line.name.EqualsNoCase(section))
           header = static_cast<int>(i);
       } else if (header >= 0 && line.kind == IniLine::Kind::Key) {
         lastKey = static_cast<int>(i);

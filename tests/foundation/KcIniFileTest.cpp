@@ -9,6 +9,7 @@
 #include <fcntl.h>
 #include <io.h>
 #include <share.h>
+#include <windows.h>
 #else
 #include <sys/stat.h>
 #include <unistd.h>
@@ -430,6 +431,23 @@ TEST(KcIniFile, WriteLeavesNoTemporaryFileBehind) {
   EXPECT_EQ(dir.EntryCount(), 1);
 }
 
+#if defined(_WIN32)
+TEST(KcIniFile, WriteKeepsTheHiddenAttributeOfTheIniFile) {
+  TempDir dir;
+  const std::string path = dir.WriteFile("a.ini", "[App]\n");
+  ASSERT_NE(SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_HIDDEN), 0);
+  KCIniFile ini(path);
+
+  ASSERT_TRUE(ini.WriteString("App", "Lang", "Eng"));
+
+  const DWORD attributes = GetFileAttributesA(path.c_str());
+  ASSERT_NE(attributes, INVALID_FILE_ATTRIBUTES);
+  EXPECT_NE(attributes & FILE_ATTRIBUTE_HIDDEN, 0u);
+  EXPECT_EQ(ini.ReadString("App", "Lang", "", false), "Eng");
+  EXPECT_EQ(dir.EntryCount(), 1);
+}
+#endif
+
 // ---------------------------------------------------------------------------------------------------------
 // Failed writes
 
@@ -508,6 +526,52 @@ TEST(KcIniFile, PathThatIsADirectoryReadsAsEmptyAndIsNeverOverwritten) {
   EXPECT_FALSE(ini.WriteString("App", "Lang", "Fra"));
 
   EXPECT_EQ(dir.ReadFile("folder.ini/inside"), "x");
+}
+
+TEST(KcIniFile, ReadsFilesWithCarriageReturnOnlyLineEnds) {
+  TempDir dir;
+  KCIniFile ini(dir.WriteFile("a.ini", "[App]\rLang=Eng\rUnits=2\r"));
+
+  EXPECT_EQ(ini.ReadString("App", "Lang", "", false), "Eng");
+  EXPECT_EQ(ini.ReadInteger("App", "Units", 0, false), 2);
+}
+
+TEST(KcIniFile, RewriteOfCarriageReturnOnlyFileUpdatesTheKeyAndKeepsItsLineEnds) {
+  TempDir dir;
+  KCIniFile ini(dir.WriteFile("a.ini", "[App]\rLang=Eng\rUnits=2\r"));
+
+  ASSERT_TRUE(ini.WriteString("App", "Lang", "Fra"));
+
+  EXPECT_EQ(dir.ReadFile("a.ini"), "[App]\rLang=Fra\rUnits=2\r");
+}
+
+TEST(KcIniFile, KeysAfterAnUnclosedSectionHeaderDoNotBelongToTheSectionAbove) {
+  TempDir dir;
+  KCIniFile ini(dir.WriteFile("a.ini", "[App]\nLang=Eng\n[Broken\nUnits=2\n"));
+
+  EXPECT_EQ(ini.ReadString("App", "Lang", "", false), "Eng");
+  EXPECT_EQ(ini.ReadInteger("App", "Units", 0, false), 0);
+}
+
+TEST(KcIniFile, NewKeyOfSectionBeforeAnUnclosedHeaderGoesBeforeThatHeader) {
+  TempDir dir;
+  KCIniFile ini(dir.WriteFile("a.ini", "[App]\nLang=Eng\n[Broken\nUnits=2\n"));
+
+  ASSERT_TRUE(ini.WriteInteger("App", "Units", 1));
+
+  EXPECT_EQ(dir.ReadFile("a.ini"), "[App]\nLang=Eng\nUnits=1\n[Broken\nUnits=2\n");
+}
+
+TEST(KcIniFile, FileNameWithANulByteNeitherReadsNorWritesAnotherFile) {
+  TempDir dir;
+  const std::string real = dir.WriteFile("a.ini", "[App]\nLang=Eng\n");
+  KCIniFile ini(KCString(real + std::string(1, '\0') + "x"));
+
+  EXPECT_EQ(ini.ReadString("App", "Lang", "none", false), "none");
+  EXPECT_FALSE(ini.WriteString("App", "Lang", "Fra"));
+
+  EXPECT_EQ(dir.ReadFile("a.ini"), "[App]\nLang=Eng\n");
+  EXPECT_EQ(dir.EntryCount(), 1);
 }
 
 }  // namespace

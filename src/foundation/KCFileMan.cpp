@@ -2,6 +2,8 @@
 
 #include <sys/stat.h>
 
+#include <string>
+
 #include "ncappkit/version.h"
 
 #if defined(_WIN32)
@@ -27,7 +29,8 @@ std::size_t FileNameStart(const std::string& path) noexcept {
 }
 
 bool StatPath(const KCString& path, struct stat& info) {
-  if (path.empty())
+  // A NUL byte cannot stand in a file name; the system would look up only the part before it.
+  if (path.empty() || path.str().find('\0') != std::string::npos)
     return false;
   return ::stat(path.c_str(), &info) == 0;
 }

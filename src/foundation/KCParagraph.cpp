@@ -417,5 +417,8 @@ std::string KCDocument::ToXml() const {
 }
 
 bool KCDocument::SaveToFile(const KCString& path) const {
+  // A NUL byte cannot stand in a file name; the system would write to the part before it.
+  if (path.str().find('\0') != std::string::npos)
+    return false;
   return ncappkit_detail::ReplaceFileContents(path.str(), ToXml());
 }

@@ -88,3 +88,11 @@ TEST(KcFileMan, FullFileVersionOfRunningProgramIsNotEmptyWhereItHasOne) {
 #endif
   EXPECT_EQ(std::count(version.str().begin(), version.str().end(), '.'), 3) << version.str();
 }
+
+TEST_F(KcFileManFiles, PathWithANulByteNamesNoFileEvenWhenItsFirstPartDoes) {
+  const KCString file = Write("a.nc");
+  const std::string dir = dir_.string();
+
+  EXPECT_FALSE(KCFileMan::FileExists(KCString(file.str() + std::string(1, '\0') + "x")));
+  EXPECT_FALSE(KCFileMan::DirectoryExists(KCString(dir + std::string(1, '\0') + "x")));
+}

@@ -763,4 +763,15 @@ TEST(KcDocument, SaveToFileFailsWhenTheDirectoryCannotHoldFilesAndKeepsNothingBr
   EXPECT_EQ(dir.ReadFile("blocker"), "I am a file");
 }
 
+TEST(KcDocument, SaveToFileFailsForAPathWithANulByteAndWritesNoOtherFile) {
+  TempDir dir;
+  const std::string path = dir.Path("out.xml");
+  KCDocument doc;
+  doc.CreateRoot("R");
+
+  EXPECT_FALSE(doc.SaveToFile(KCString(path + std::string(1, '\0') + ".bak")));
+
+  EXPECT_EQ(dir.EntryCount(), 0);
+}
+
 }  // namespace

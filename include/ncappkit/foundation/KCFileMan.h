@@ -9,9 +9,10 @@
 
 class NCAPPKIT_EXPORT KCFileMan {
  public:
-  /// True when `path` names an existing regular file (a directory is not a file).
+  /// True when `path` names an existing regular file (a directory is not a file); false for a path with a
+  /// NUL byte.
   static bool FileExists(const KCString& path);
-  /// True when `path` names an existing directory.
+  /// True when `path` names an existing directory; false for a path with a NUL byte.
   static bool DirectoryExists(const KCString& path);
   /// The file name without directories and without its last extension: "/a/b/mill.tar.gz" gives "mill.tar",
   /// "C:\\x\\run.exe" gives "run", ".profile" gives ".profile".

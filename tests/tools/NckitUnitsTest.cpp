@@ -79,3 +79,56 @@ TEST_F(NckitUnits, BadInputIsAUsageError) {
     EXPECT_EQ(r.err.rfind("nckit units: ", 0), 0u) << r.err;
   }
 }
+
+TEST_F(NckitUnits, UnknownOptionIsNamedAsSuch) {
+  const ChildResult r = Units({"--precision"});
+  EXPECT_EQ(r.exitCode, 2);
+  EXPECT_EQ(r.err, "nckit units: unknown option '--precision' (try 'nckit units --help')\n");
+}
+
+TEST_F(NckitUnits, ShortHelpOptionShowsTheHelp) {
+  const ChildResult r = Units({"-h"});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(r.out.rfind("usage: nckit units", 0), 0u);
+  EXPECT_EQ(r.err, "");
+}
+
+TEST_F(NckitUnits, NegativeValueAfterDoubleDash) {
+  const ChildResult r = Units({"--from", "mm", "--to", "inch", "--", "-25.4"});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(r.out, "-0.9999\n");
+}
+
+TEST_F(NckitUnits, ValueBeyondTheDoubleRangeIsRefused) {
+  const ChildResult r = Units({"1e400", "--from", "mm", "--to", "mm"});
+  EXPECT_EQ(r.exitCode, 2);
+  EXPECT_EQ(r.out, "");
+  EXPECT_EQ(r.err, "nckit units: value '1e400' is out of range\n");
+}
+
+TEST_F(NckitUnits, ValueThatOverflowsInTheConversionIsRefused) {
+  const ChildResult r = Units({"1e308", "--from", "inch", "--to", "mm"});
+  EXPECT_EQ(r.exitCode, 2);
+  EXPECT_EQ(r.out, "");
+  EXPECT_EQ(r.err, "nckit units: value '1e308' is out of range: at most 2147483.647 mm after conversion\n");
+}
+
+TEST_F(NckitUnits, LargestAxisPositionInMmIsConverted) {
+  const ChildResult r = Units({"-2147483.647", "--from", "mm", "--to", "mm"});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(r.out, "-2147483.647\n");
+}
+
+TEST_F(NckitUnits, ValueBeyondTheRoundingRangeIsRefused) {
+  const ChildResult r = Units({"1e305", "--from", "mm", "--to", "mm"});
+  EXPECT_EQ(r.exitCode, 2);
+  EXPECT_EQ(r.out, "");
+  EXPECT_EQ(r.err, "nckit units: value '1e305' is out of range: at most 2147483.647 mm after conversion\n");
+}
+
+TEST_F(NckitUnits, RangeOfAnInchDimensionFollowsTheConversionSteps) {
+  const ChildResult r = Units({"6000000", "--from", "mm", "--to", "inch", "--quantity", "dimension"});
+  EXPECT_EQ(r.exitCode, 2);
+  EXPECT_EQ(r.err,
+            "nckit units: value '6000000' is out of range: at most 214748.3647 inch after conversion\n");
+}

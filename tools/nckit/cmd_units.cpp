@@ -8,7 +8,8 @@
 // Lengths (axis, dimension, thickness) are converted with KCC_MmInch (mm to inch keeps four decimals as the
 // library does); weights and specific weights are not lengths and keep their value, only the target unit's
 // digits apply. The converted value is rounded (half away from zero) and then written with the digits of
-// the quantity in the target unit.
+// the quantity in the target unit. A value whose rounding steps do not fit in 32 bits is refused.
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <ostream>
@@ -57,7 +58,8 @@ void PrintHelp(std::ostream& out) {
   out << "usage: nckit units VALUE --from mm|inch --to mm|inch "
          "[--quantity axis|dimension|thickness|weight|specweight]\n"
          "Converts VALUE (lengths only; weights keep their value), rounds it half away from zero and writes\n"
-         "it with the digits of the quantity in the target unit (default quantity: axis).\n";
+         "it with the digits of the quantity in the target unit (default quantity: axis). A negative VALUE\n"
+         "may be given as it is (-5) or after '--'. --help (-h) shows this text.\n";
 }
 
 int Usage(std::ostream& err, const std::string& problem) {
@@ -68,22 +70,30 @@ int Usage(std::ostream& err, const std::string& problem) {
 int RunUnits(const NckitArgs& args, std::ostream& out, std::ostream& err) {
   bool haveValue = false;
   double value = 0.0;
+  std::string valueText;
   KCC_MmInch from;
   KCC_MmInch to;
   Quantity quantity = Quantity::kAxis;
+  bool optionsEnded = false;
   for (std::size_t i = 0; i < args.size(); ++i) {
     std::string arg = args[i];
-    if (arg == "--help") {
+    if (!optionsEnded && (arg == "--help" || arg == "-h")) {
       PrintHelp(out);
       return kNckitOk;
+    }
+    if (!optionsEnded && arg == "--") {
+      optionsEnded = true;
+      continue;
     }
     std::string option;
     std::string optionValue;
     bool isOption = false;
-    if (arg.rfind("--", 0) == 0 && arg.size() > 2) {
+    if (!optionsEnded && arg.rfind("--", 0) == 0 && arg.size() > 2) {
       isOption = true;
       const std::size_t eq = arg.find('=');
       option = arg.substr(0, eq);
+      if (option != "--from" && option != "--to" && option != "--quantity")
+        return Usage(err, "unknown option '" + option + "'");
       if (eq != std::string::npos) {
         optionValue = arg.substr(eq + 1);
       } else {
@@ -100,7 +110,12 @@ int RunUnits(const NckitArgs& args, std::ostream& out, std::ostream& err) {
         return Usage(err, "more than one value: '" + arg + "'");
       if (std::isnan(parsed))
         return Usage(err, "not a number: '" + arg + "'");
+      if (!std::isfinite(parsed)) {
+        err << "nckit units: value '" << arg << "' is out of range\n";
+        return kNckitUsage;
+      }
       value = parsed;
+      valueText = arg;
       haveValue = true;
       continue;
     }
@@ -110,11 +125,9 @@ int RunUnits(const NckitArgs& args, std::ostream& out, std::ostream& err) {
     } else if (option == "--to") {
       if (!ParseUnit(optionValue, to))
         return Usage(err, "unknown unit '" + optionValue + "' (mm or inch)");
-    } else if (option == "--quantity") {
+    } else {
       if (!ParseQuantity(optionValue, quantity))
         return Usage(err, "unknown quantity '" + optionValue + "'");
-    } else {
-      return Usage(err, "unknown option '" + option + "'");
     }
   }
   if (!haveValue)
@@ -135,22 +148,70 @@ int RunUnits(const NckitArgs& args, std::ostream& out, std::ostream& err) {
 
   const KCC_MmInch_Rounding round(to);
   const KCC_MmInch_Format format(to);
+  // The conversion to inch and the rounding scale the value to whole steps held in a 32-bit integer; a
+  // value with more steps is outside the range they support, so it is refused instead of printed wrong.
+  int digits = 0;
+  switch (quantity) {
+    case Quantity::kAxis:
+      digits = round.DigitsBehindAxis();
+      break;
+    case Quantity::kDimension:
+      digits = round.DigitsBehindDimension();
+      break;
+    case Quantity::kThickness:
+      digits = round.DigitsBehindThickness();
+      break;
+    case Quantity::kWeight:
+      digits = round.DigitsBehindWeight();
+      break;
+    case Quantity::kSpecWeight:
+      digits = round.DigitsBehindSpecificWeight();
+      break;
+  }
+  constexpr double kMaxSteps = 2147483647.0;
+  const bool convertsToInch = isLength && from != to && to.IsInchMode();
+  const int stepDigits = convertsToInch ? std::max(digits, 4) : digits;
+  if (!std::isfinite(converted) ||
+      std::fabs(converted) * std::pow(10.0, stepDigits) + 0.5 >= kMaxSteps + 1.0) {
+    const KCString limit(kMaxSteps / std::pow(10.0, stepDigits), stepDigits, false);
+    err << "nckit units: value '" << valueText << "' is out of range: at most " << limit << ' '
+        << (to.IsInchMode() ? "inch" : "mm") << " after conversion\n";
+    return kNckitUsage;
+  }
+  double rounded = converted;
+  switch (quantity) {
+    case Quantity::kAxis:
+      rounded = round.RoundAxis(converted);
+      break;
+    case Quantity::kDimension:
+      rounded = round.RoundDimension(converted);
+      break;
+    case Quantity::kThickness:
+      rounded = round.RoundThickness(converted);
+      break;
+    case Quantity::kWeight:
+      rounded = round.RoundWeight(converted);
+      break;
+    case Quantity::kSpecWeight:
+      rounded = round.RoundSpecificWeight(converted);
+      break;
+  }
   KCString text;
   switch (quantity) {
     case Quantity::kAxis:
-      text = format.FormatAxisPos(round.RoundAxis(converted));
+      text = format.FormatAxisPos(rounded);
       break;
     case Quantity::kDimension:
-      text = format.FormatDimension(round.RoundDimension(converted));
+      text = format.FormatDimension(rounded);
       break;
     case Quantity::kThickness:
-      text = format.FormatThickness(round.RoundThickness(converted));
+      text = format.FormatThickness(rounded);
       break;
     case Quantity::kWeight:
-      text = format.FormatWeight(round.RoundWeight(converted));
+      text = format.FormatWeight(rounded);
       break;
     case Quantity::kSpecWeight:
-      text = format.FormatSpecWeight(round.RoundSpecificWeight(converted));
+      text = format.FormatSpecWeight(rounded);
       break;
   }
   out << text << '\n';

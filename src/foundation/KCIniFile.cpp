@@ -19,7 +19,8 @@
 //   of the rewrite, and the last line gets one too. A new file gets CRLF on Windows and LF elsewhere. A UTF-8
 //   byte-order mark at the start is kept.
 // - Every call reads the file afresh, so changes by other programs are seen. A file that exists but cannot
-//   be read reads as empty and is never overwritten: writes to it fail. A file name with a NUL byte names no
+//   be read reads as empty and is never overwritten: writes to it fail. Writes through a symbolic link
+//   replace the file the link names; the link stays. A file name with a NUL byte names no
 //   file (the system would see only the part before it): it reads as empty and writes fail.
 // - Writes that could not be read back as written fail without touching the file: a section name with ']'
 //   or a line break, an empty key, a key with '=' or a line break or starting with '[', ';' or '#', and a
@@ -164,7 +165,15 @@ class IniText {
       content += line.text;
       content += m_lineEnd;
     }
-    return ncappkit_detail::ReplaceFileContents(m_fileName, content);
+    // A symbolic link is followed, so the file it names gets the new contents and the link stays a link.
+    std::string target = m_fileName;
+    std::error_code error;
+    if (std::filesystem::is_symlink(target, error)) {
+      const std::filesystem::path resolved = std::filesystem::canonical(target, error);
+      if (!error)
+        target = resolved.string();
+    }
+    return ncappkit_detail::ReplaceFileContents(target, content);
   }
 
  private:

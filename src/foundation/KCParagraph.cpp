@@ -16,8 +16,10 @@
 #include "ncappkit/foundation/KCParagraph.h"
 
 #include <cstdint>
+#include <filesystem>
 #include <set>
 #include <string>
+#include <system_error>
 
 #include "foundation/KCReplaceFile.h"
 
@@ -420,5 +422,13 @@ bool KCDocument::SaveToFile(const KCString& path) const {
   // A NUL byte cannot stand in a file name; the system would write to the part before it.
   if (path.str().find('\0') != std::string::npos)
     return false;
-  return ncappkit_detail::ReplaceFileContents(path.str(), ToXml());
+  // A symbolic link is followed, so the file it names gets the new contents and the link stays a link.
+  std::string target = path.str();
+  std::error_code error;
+  if (std::filesystem::is_symlink(target, error)) {
+    const std::filesystem::path resolved = std::filesystem::canonical(target, error);
+    if (!error)
+      target = resolved.string();
+  }
+  return ncappkit_detail::ReplaceFileContents(target, ToXml());
 }

@@ -574,4 +574,22 @@ TEST(KcIniFile, FileNameWithANulByteNeitherReadsNorWritesAnotherFile) {
   EXPECT_EQ(dir.EntryCount(), 1);
 }
 
+#if !defined(_WIN32)
+TEST(KcIniFile, WriteThroughASymbolicLinkUpdatesTheFileItNamesAndKeepsTheLink) {
+  TempDir dir;
+  const std::string target = dir.WriteFile("real.ini", "[App]\nLang=Eng\n");
+  const std::string link = dir.Path("link.ini");
+  ASSERT_EQ(symlink(target.c_str(), link.c_str()), 0);
+  KCIniFile ini(link);
+
+  ASSERT_TRUE(ini.WriteString("App", "Lang", "Fra"));
+
+  struct stat info {};
+  ASSERT_EQ(lstat(link.c_str(), &info), 0);
+  EXPECT_TRUE(S_ISLNK(info.st_mode));
+  EXPECT_EQ(dir.ReadFile("real.ini"), "[App]\nLang=Fra\n");
+  EXPECT_EQ(dir.EntryCount(), 2);
+}
+#endif
+
 }  // namespace

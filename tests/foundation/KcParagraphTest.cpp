@@ -10,6 +10,11 @@
 #include "ncappkit/foundation/KCParagraph.h"
 #include "support/TempDir.h"
 
+#if !defined(_WIN32)
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
 namespace {
 
 // ---------------------------------------------------------------------------------------------------------
@@ -773,5 +778,24 @@ TEST(KcDocument, SaveToFileFailsForAPathWithANulByteAndWritesNoOtherFile) {
 
   EXPECT_EQ(dir.EntryCount(), 0);
 }
+
+#if !defined(_WIN32)
+TEST(KcDocument, SaveToFileThroughASymbolicLinkReplacesTheFileItNamesAndKeepsTheLink) {
+  TempDir dir;
+  dir.WriteFile("real.xml", "old");
+  const std::string link = dir.Path("link.xml");
+  ASSERT_EQ(symlink(dir.Path("real.xml").c_str(), link.c_str()), 0);
+  KCDocument doc;
+  doc.CreateRoot("R");
+
+  ASSERT_TRUE(doc.SaveToFile(link));
+
+  struct stat info {};
+  ASSERT_EQ(lstat(link.c_str(), &info), 0);
+  EXPECT_TRUE(S_ISLNK(info.st_mode));
+  EXPECT_EQ(dir.ReadFile("real.xml"), doc.ToXml());
+  EXPECT_EQ(dir.EntryCount(), 2);
+}
+#endif
 
 }  // namespace

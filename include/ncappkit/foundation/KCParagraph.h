@@ -130,7 +130,8 @@ class NCAPPKIT_EXPORT KCDocument {
   /// child sections. `& < > " '` are escaped. An empty document gives only the declaration.
   std::string ToXml() const;
   /// Write ToXml() to `path` (through a temporary file beside it, so an existing file is replaced only by a
-  /// complete new one). True on success; false, writing nothing, for a path with a NUL byte.
+  /// complete new one; a symbolic link is followed and stays). True on success; false, writing nothing, for a
+  /// path with a NUL byte.
   bool SaveToFile(const KCString& path) const;
 
  private:

@@ -152,3 +152,19 @@ TEST_F(NckitInfo, BinaryGarbageGivesALoadErrorNotACrash) {
   EXPECT_EQ(r.exitCode, 1);
   EXPECT_NE(r.err.find("too many lines"), std::string::npos);
 }
+
+TEST_F(NckitInfo, JsonKeepsUtf8CharactersOfAReference) {
+  TempDir dir;
+  const std::string path = dir.WriteFile("utf8.nc", "O0001 (CAF\xC3\x89 \xF0\x9F\x98\x80)\nM30\n");
+  const ChildResult r = Info({path, "--json"});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_NE(r.out.find("\"ref\": \"CAF\\u00c9 \\ud83d\\ude00\""), std::string::npos) << r.out;
+}
+
+TEST_F(NckitInfo, JsonTakesBytesThatAreNoUtf8AsLatin1) {
+  TempDir dir;
+  const std::string path = dir.WriteFile("latin1.nc", "O0001 (CAF\xC9)\nM30\n");
+  const ChildResult r = Info({path, "--json"});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_NE(r.out.find("\"ref\": \"CAF\\u00c9\""), std::string::npos) << r.out;
+}

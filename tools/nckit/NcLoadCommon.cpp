@@ -234,10 +234,54 @@ std::string ProgramsText(const std::vector<const KCC_NcFileProgram*>& programs) 
   return text;
 }
 
-std::string JsonString(const std::string& text) {
+namespace {
+
+// Length of the well-formed UTF-8 sequence at text[i] and its code point; 0 when the bytes there are none.
+std::size_t Utf8Sequence(const std::string& text, std::size_t i, unsigned& codePoint) {
+  const auto byte = [&](std::size_t k) { return static_cast<unsigned char>(text[k]); };
+  const unsigned lead = byte(i);
+  std::size_t length = 0;
+  unsigned min = 0;
+  if (lead >= 0xC2 && lead <= 0xDF) {
+    length = 2;
+    codePoint = lead & 0x1F;
+    min = 0x80;
+  } else if (lead >= 0xE0 && lead <= 0xEF) {
+    length = 3;
+    codePoint = lead & 0x0F;
+    min = 0x800;
+  } else if (lead >= 0xF0 && lead <= 0xF4) {
+    length = 4;
+    codePoint = lead & 0x07;
+    min = 0x10000;
+  } else {
+    return 0;
+  }
+  if (i + length > text.size())
+    return 0;
+  for (std::size_t k = 1; k < length; ++k) {
+    if ((byte(i + k) & 0xC0) != 0x80)
+      return 0;
+    codePoint = (codePoint << 6) | (byte(i + k) & 0x3F);
+  }
+  if (codePoint < min || codePoint > 0x10FFFF || (codePoint >= 0xD800 && codePoint <= 0xDFFF))
+    return 0;
+  return length;
+}
+
+void AppendJsonEscape(std::string& out, unsigned unit) {
   static const char kHex[] = "0123456789abcdef";
+  out += "\\u";
+  for (int shift = 12; shift >= 0; shift -= 4)
+    out += kHex[(unit >> shift) & 0xF];
+}
+
+}  // namespace
+
+std::string JsonString(const std::string& text) {
   std::string out = "\"";
-  for (const char ch : text) {
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const char ch = text[i];
     const auto c = static_cast<unsigned char>(ch);
     if (c == '"' || c == '\\') {
       out += '\\';
@@ -248,12 +292,24 @@ std::string JsonString(const std::string& text) {
       out += "\\r";
     } else if (c == '\t') {
       out += "\\t";
-    } else if (c < 0x20 || c >= 0x7F) {
-      out += "\\u00";
-      out += kHex[c >> 4];
-      out += kHex[c & 0xF];
-    } else {
+    } else if (c < 0x20 || c == 0x7F) {
+      AppendJsonEscape(out, c);
+    } else if (c < 0x80) {
       out += ch;
+    } else {
+      // UTF-8 text keeps its characters; any other byte is taken as a Latin-1 character.
+      unsigned codePoint = c;
+      const std::size_t length = Utf8Sequence(text, i, codePoint);
+      if (length == 0) {
+        AppendJsonEscape(out, c);
+      } else if (codePoint < 0x10000) {
+        AppendJsonEscape(out, codePoint);
+        i += length - 1;
+      } else {
+        AppendJsonEscape(out, 0xD800 + ((codePoint - 0x10000) >> 10));
+        AppendJsonEscape(out, 0xDC00 + ((codePoint - 0x10000) & 0x3FF));
+        i += length - 1;
+      }
     }
   }
   out += '"';

@@ -81,7 +81,8 @@ std::vector<KCC_NcFileProgram*> AllPrograms(KCC_NcFile& file);
 /// The text SaveToFile writes for these programs: each line with a line end, framed by '%' lines.
 std::string ProgramsText(const std::vector<const KCC_NcFileProgram*>& programs);
 
-/// `text` as a JSON string literal (quotes included); bytes outside ASCII are written as \u00XX.
+/// `text` as a JSON string literal (quotes included), ASCII only: well-formed UTF-8 characters are written
+/// as \u escapes of their code points, any other byte outside ASCII as the Latin-1 character \u00XX.
 std::string JsonString(const std::string& text);
 
 /// Parse a program number argument ("1000", "O1000", "O0012"); false when it is none.

@@ -126,3 +126,15 @@ TEST_F(NckitCheck, EmptyDeviceIsNotReportedAsAMissingFile) {
   EXPECT_EQ(r.err, "nckit check: /dev/null: not a regular file (a device, pipe or socket)\n");
 }
 #endif
+
+TEST_F(NckitCheck, LongLineAfterTheLineBudgetIsNotBlamed) {
+  TempDir dir;
+  std::string text = "O0001\n";
+  for (int i = 1; i < 999998; ++i)
+    text += "X1\n";
+  text += "M30 (" + std::string(200, 'A') + ")\n";
+  const std::string path = dir.WriteFile("budget.nc", text);
+  const ChildResult r = Check({path});
+  EXPECT_EQ(r.exitCode, 1);
+  EXPECT_EQ(r.err, "nckit check: " + path + ": too many lines: more than 999998 lines\n");
+}

@@ -14,6 +14,8 @@ namespace {
 
 // The file reader of KCC_NcFile keeps at most this many characters per line.
 constexpr std::size_t kReaderLineLimit = 127;
+// ... and reads at most this many lines.
+constexpr long long kReaderLineBudget = 999998;
 
 const std::set<std::string> kLoadFlags = {"--first-block", "--keep-unfinished", "--no-line-limit"};
 
@@ -132,7 +134,9 @@ long long FindFirstLongLine(const std::string& path, std::size_t& length) {
   std::ifstream in(path, std::ios::binary);
   std::string line;
   long long number = 0;
-  while (std::getline(in, line)) {
+  // The reader stops after this many lines whatever their length, so a long line further down is not the
+  // reason for a too-many-lines result.
+  while (number < kReaderLineBudget && std::getline(in, line)) {
     ++number;
     if (!in.eof() && !line.empty() && line.back() == '\r')
       line.pop_back();

@@ -27,10 +27,11 @@ constexpr char kPathSeparator = '\\';
 constexpr char kPathSeparator = '/';
 #endif
 
-// Number text is built in a stack buffer; the longest fixed-notation double (1.8e308 with all its digits and
-// the largest supported number of decimals) fits comfortably.
-constexpr int kMaxDecimals = 340;
-using NumberBuffer = std::array<char, 700>;
+// Number text is built in a stack buffer. Every double's exact decimal expansion ends within 1074 decimals
+// (the smallest positive double is 2^-1074), so more decimals would only add zeros; the longest text, a sign,
+// the 309 integer digits of 1.8e308, the point and 1074 decimals, fits.
+constexpr int kMaxDecimals = 1074;
+using NumberBuffer = std::array<char, 1400>;
 
 // Position just past a leading number "[sign]digits[.digits][(e|E)[sign]digits]" starting at `first`, or
 // `first` when there is none. Only the shapes our readers accept count: no "inf", "nan" or hex.

@@ -5,6 +5,7 @@
 #include <limits>
 #include <locale>
 #include <sstream>
+#include <stdexcept>
 #include <string>
 
 #include "ncappkit/foundation/KCString.h"
@@ -196,6 +197,22 @@ TEST(KcString, DoubleTextOfHugeValueIsComplete) {
   EXPECT_EQ(s.GetLength(), 301 + 3);
 }
 
+TEST(KcString, DoubleWithManyDigitsWritesExactlyThatManyDecimals) {
+  const KCString s(1.0, 400, false);
+
+  EXPECT_EQ(s, "1." + std::string(400, '0'));
+}
+
+TEST(KcString, DoubleWithMoreDigitsThanAnyDoubleHasWritesItsWholeExactExpansion) {
+  // The smallest positive double, 2^-1074, has exactly 1074 decimals, ending in ...3447265625.
+  const KCString s(std::numeric_limits<double>::denorm_min(), 5000, false);
+
+  EXPECT_EQ(s.GetLength(), 2 + 1074);
+  EXPECT_EQ(s.Left(2 + 323), "0." + std::string(323, '0'));
+  EXPECT_EQ(s.Mid(2 + 323, 10), "4940656458");
+  EXPECT_EQ(s.Right(10), "3447265625");
+}
+
 TEST(KcString, CleanDoubleStringDropsTrailingZerosAndPoint) {
   EXPECT_EQ(KCString("12.500").CleanDoubleString(), "12.5");
   EXPECT_EQ(KCString("3.000").CleanDoubleString(), "3");
@@ -282,6 +299,33 @@ TEST(KcString, NumberTextDoesNotDependOnProcessLocale) {
   EXPECT_DOUBLE_EQ(read, 2.5);
   if (!haveGerman)
     GTEST_SKIP() << "de_DE locale not installed; checked in the C locale only";
+}
+
+TEST(KcString, NumberTextDoesNotDependOnTheGlobalCppLocale) {
+  std::locale german;
+  try {
+    german = std::locale("de_DE.UTF-8");
+  } catch (const std::runtime_error&) {
+    GTEST_SKIP() << "de_DE.UTF-8 locale not installed";
+  }
+  const std::locale saved = std::locale::global(german);
+  const KCString fixed(1234567.5, 2, false);
+  const KCString shortest(-0.125, -1, false);
+  const KCString integer(1234567, false);
+  const double read = KCString("1234.5").AsDouble(0.0);
+  const double readComma = KCString("1,5").AsDouble(-1.0);
+  const int readInt = KCString("1.234").AsInt(-1);
+  std::ostringstream streamed;
+  streamed << KCString(2.5, -1, false);
+  std::locale::global(saved);
+
+  EXPECT_EQ(fixed, "1234567.50");
+  EXPECT_EQ(shortest, "-0.125");
+  EXPECT_EQ(integer, "1234567");
+  EXPECT_DOUBLE_EQ(read, 1234.5);
+  EXPECT_DOUBLE_EQ(readComma, 1.0);
+  EXPECT_EQ(readInt, 1);
+  EXPECT_EQ(streamed.str(), "2.5");
 }
 
 TEST(KcString, PathJoinUsesExactlyOneSeparator) {

@@ -41,7 +41,8 @@ class NCAPPKIT_EXPORT KCString {
   /// ("+12"); false gives the plain form ("12", "-3").
   KCString(int value, bool forceSign);
   /// Decimal text of `value`, locale-free. `digits` >= 0 writes fixed notation with exactly that many
-  /// decimals (1.005 with 2 digits gives "1.00" or "1.01" as the binary value rounds); `digits` < 0 writes
+  /// decimals (1.005 with 2 digits gives "1.00" or "1.01" as the binary value rounds), at most 1074, where
+  /// the exact expansion of every double has ended (a larger count writes 1074); `digits` < 0 writes
   /// the shortest fixed-notation text that reads back to the same double ("2.5", "10", "0.1", "0.0001", never
   /// an exponent). `forceSign` as for the integer constructor. NaN gives "nan", infinities "inf" and "-inf".
   KCString(double value, int digits, bool forceSign);

@@ -138,3 +138,26 @@ TEST_F(NckitCheck, LongLineAfterTheLineBudgetIsNotBlamed) {
   EXPECT_EQ(r.exitCode, 1);
   EXPECT_EQ(r.err, "nckit check: " + path + ": too many lines: more than 999998 lines\n");
 }
+
+TEST_F(NckitCheck, WarnsThatLinesEndedByACarriageReturnAloneAreOneLine) {
+  TempDir dir;
+  const std::string path = dir.WriteFile("mac.nc", "%\rO0001\rG00 X0\rM30\r%\r");
+  const ChildResult r = Check({path});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(r.err,
+            "nckit check: " + path +
+                ": warning: line 1 has a carriage return inside it; lines ended by a carriage return alone "
+                "are read as one line\n");
+}
+
+TEST_F(NckitCheck, CarriageReturnsBeforeOrAfterTheLineFeedGiveNoWarning) {
+  TempDir dir;
+  const std::string crlf = dir.WriteFile("crlf.nc", "%\r\nO0001\r\nG00 X0\r\nM30\r\n%\r\n");
+  const std::string punched = dir.WriteFile("punched.nc", "%\n\r\rO0001\n\r\rG00 X0\n\r\rM30\n\r\r%\n");
+  const ChildResult r1 = Check({crlf});
+  const ChildResult r2 = Check({punched});
+  EXPECT_EQ(r1.exitCode, 0);
+  EXPECT_EQ(r1.err, "");
+  EXPECT_EQ(r2.exitCode, 0);
+  EXPECT_EQ(r2.err, "");
+}

@@ -184,7 +184,42 @@ int LoadNcFile(const char* command, const std::string& path, const NcLoadOptions
       result.longLine = FindFirstLongLine(path, result.longLineLength);
   }
   result.errorCode = result.file->GetErrorCode();
+  if (const long long line = FindLoneCarriageReturn(path); line > 0) {
+    err << "nckit " << command << ": " << path << ": warning: line " << line
+        << " has a carriage return inside it; lines ended by a carriage return alone are read as one line\n";
+  }
   return -1;
+}
+
+long long FindLoneCarriageReturn(const std::string& path) {
+  std::FILE* file = std::fopen(path.c_str(), "rb");
+  if (file == nullptr)
+    return 0;
+  std::vector<char> buffer(1 << 16);
+  long long line = 1;
+  bool text = false;            // the line has a character other than a carriage return so far
+  bool carriageReturn = false;  // the last byte was a carriage return that follows such a character
+  long long found = 0;
+  std::size_t got = 0;
+  while (found == 0 && (got = std::fread(buffer.data(), 1, buffer.size(), file)) > 0) {
+    for (std::size_t i = 0; i < got && found == 0; ++i) {
+      const char c = buffer[i];
+      if (carriageReturn && c != '\n' && c != '\r')
+        found = line;
+      if (c == '\n') {
+        ++line;
+        text = false;
+        carriageReturn = false;
+      } else if (c == '\r') {
+        carriageReturn = carriageReturn || text;
+      } else {
+        text = true;
+        carriageReturn = false;
+      }
+    }
+  }
+  std::fclose(file);
+  return found;
 }
 
 void ReportLoadError(const char* command, const std::string& path, const NcLoadResult& result,

@@ -63,7 +63,8 @@ std::string NcLoadErrorName(int errorCode);
 
 /// Check that `path` names a readable regular file (message and usage exit code otherwise), then load it
 /// with `options`. Returns -1 when the file was read (result.errorCode tells how the load went), else the
-/// exit code. With noLineLimit the lines are read first and loaded from the string list.
+/// exit code. With noLineLimit the lines are read first and loaded from the string list. A file with lines
+/// ended by a carriage return alone gets a warning on `err`, since the reader sees them as one line.
 int LoadNcFile(const char* command, const std::string& path, const NcLoadOptions& options,
                NcLoadResult& result, std::ostream& err);
 
@@ -74,6 +75,11 @@ void ReportLoadError(const char* command, const std::string& path, const NcLoadR
 
 /// First line (1-based) of the file that holds more than 127 characters, with its length; 0 when none.
 long long FindFirstLongLine(const std::string& path, std::size_t& length);
+
+/// First line (1-based, lines ended by a line feed) where a carriage return after the line's text is followed
+/// by more text, as in files whose lines end with a carriage return alone; 0 when none. Carriage returns at
+/// the start of a line (the loader turns them into blanks) or before the line feed are not counted.
+long long FindLoneCarriageReturn(const std::string& path);
 
 /// All programs of both lists, main programs first, without null entries.
 std::vector<KCC_NcFileProgram*> AllPrograms(KCC_NcFile& file);

@@ -66,13 +66,13 @@ const char* ScanRealNumber(const char* first, const char* last) noexcept {
 
 // Rough decimal exponent of a scanned number (digits of the integer part, or minus the zeros that open the
 // fraction, plus the written exponent): positive means the value is at least 1.
-long DecimalMagnitude(const char* first, const char* last) noexcept {
+std::int64_t DecimalMagnitude(const char* first, const char* last) noexcept {
   const char* p = first;
   if (p != last && (*p == '+' || *p == '-'))
     ++p;
   while (p != last && *p == '0')
     ++p;
-  long magnitude = 0;
+  std::int64_t magnitude = 0;
   while (p != last && IsDigit(*p)) {
     ++magnitude;
     ++p;
@@ -91,9 +91,14 @@ long DecimalMagnitude(const char* first, const char* last) noexcept {
     bool negative = false;
     if (p != last && (*p == '+' || *p == '-'))
       negative = *p++ == '-';
-    long exponent = 0;
-    while (p != last && IsDigit(*p) && exponent < 100000)
-      exponent = exponent * 10 + (*p++ - '0');
+    // The exponent stops growing once it outweighs any digit count a string can hold, but all its digits
+    // are read, so a long exponent is never cut short to a small one.
+    constexpr std::int64_t kExponentCap = 100000000000000000;  // 1e17: times ten plus a digit still fits
+    std::int64_t exponent = 0;
+    for (; p != last && IsDigit(*p); ++p) {
+      if (exponent < kExponentCap)
+        exponent = exponent * 10 + (*p - '0');
+    }
     magnitude += negative ? -exponent : exponent;
   }
   return magnitude;

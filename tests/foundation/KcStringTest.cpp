@@ -281,6 +281,15 @@ TEST(KcString, AsDoubleSaturatesOutOfRangeValues) {
       0.0);
 }
 
+TEST(KcString, AsDoubleSaturatesByTheWholeExponentEvenWithMillionsOfDigits) {
+  // 10^-1000000 written with two million mantissa digits, and 10^999999 with two million leading zeros.
+  const KCString tiny("1" + std::string(2000000, '0') + "e-3000000");
+  const KCString huge("0." + std::string(2000000, '0') + "1e3000000");
+
+  EXPECT_EQ(tiny.AsDouble(5.0), 0.0);
+  EXPECT_EQ(huge.AsDouble(5.0), std::numeric_limits<double>::infinity());
+}
+
 TEST(KcString, AsDoubleStrictRejectsTrailingText) {
   EXPECT_DOUBLE_EQ(KCString("2.5").AsDoubleStrict(-1.0), 2.5);
   EXPECT_DOUBLE_EQ(KCString(" 2.5 ").AsDoubleStrict(-1.0), 2.5);

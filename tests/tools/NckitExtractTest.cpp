@@ -82,3 +82,17 @@ TEST_F(NckitExtract, HelpExitsZero) {
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_EQ(r.out.rfind("usage: nckit extract FILE NUMBER...", 0), 0u);
 }
+
+TEST_F(NckitExtract, EmptyOutputNameIsAUsageError) {
+  const ChildResult r = Extract({kFanucSample, "1000", "-o", ""});
+  EXPECT_EQ(r.exitCode, 2);
+  EXPECT_EQ(r.out, "");
+  EXPECT_EQ(r.err, "nckit extract: -o needs a file name (try 'nckit extract --help')\n");
+}
+
+TEST_F(NckitExtract, DirectoryAsOutputIsAUsageError) {
+  TempDir dir;
+  const ChildResult r = Extract({kFanucSample, "1000", "-o", dir.Path()});
+  EXPECT_EQ(r.exitCode, 2);
+  EXPECT_EQ(r.err, "nckit extract: " + dir.Path() + ": is a directory; -o names the file to write\n");
+}

@@ -87,3 +87,11 @@ TEST_F(NckitRemove, HelpExitsZero) {
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_EQ(r.out.rfind("usage: nckit remove FILE NUMBER... -o OUT", 0), 0u);
 }
+
+TEST_F(NckitRemove, DirectoryAsOutputIsAUsageError) {
+  TempDir dir;
+  const std::string input = dir.WriteFile("in.nc", "O1\nM30\nO2\nM30\n");
+  const ChildResult r = Remove({input, "1", "-o", dir.Path()});
+  EXPECT_EQ(r.exitCode, 2);
+  EXPECT_EQ(r.err, "nckit remove: " + dir.Path() + ": is a directory; -o names the file to write\n");
+}

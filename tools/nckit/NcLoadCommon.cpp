@@ -395,3 +395,14 @@ int ParseProgramNumberArguments(const char* command, const NcCommandLine& cl, st
   }
   return -1;
 }
+
+int CheckOutputFileName(const char* command, const std::string& target, std::ostream& err) {
+  if (target.empty())
+    return NcUsageError(command, "-o needs a file name", err);
+  std::error_code ec;
+  if (fs::is_directory(target, ec)) {
+    err << "nckit " << command << ": " << target << ": is a directory; -o names the file to write\n";
+    return kNckitUsage;
+  }
+  return -1;
+}

@@ -102,5 +102,9 @@ int ParseProgramNumberArguments(const char* command, const NcCommandLine& cl, st
 /// A program number as written in file names and tables: at least four digits ("0012"); "-" for none.
 std::string ProgramNumberText(int number);
 
+/// Check the output file named with -o before anything is loaded: an empty name or a directory is a usage
+/// error (message on `err`, usage exit code); -1 when the name can be tried.
+int CheckOutputFileName(const char* command, const std::string& target, std::ostream& err);
+
 /// True when the two paths name the same existing file.
 bool SameFile(const std::string& a, const std::string& b);

@@ -41,6 +41,10 @@ int RunExtract(const NckitArgs& args, std::ostream& out, std::ostream& err) {
   std::set<int> wanted;
   if (int rc = ParseProgramNumberArguments(kCommand, cl, wanted, err); rc >= 0)
     return rc;
+  if (cl.values.count("-o") != 0) {
+    if (int rc = CheckOutputFileName(kCommand, cl.values["-o"], err); rc >= 0)
+      return rc;
+  }
   const std::string& path = cl.positionals[0];
   NcLoadResult loaded;
   if (int rc = LoadNcFile(kCommand, path, cl.LoadOptions(), loaded, err); rc >= 0)

@@ -39,6 +39,8 @@ int RunRemove(const NckitArgs& args, std::ostream& out, std::ostream& err) {
   std::set<int> unwanted;
   if (int rc = ParseProgramNumberArguments(kCommand, cl, unwanted, err); rc >= 0)
     return rc;
+  if (int rc = CheckOutputFileName(kCommand, cl.values["-o"], err); rc >= 0)
+    return rc;
   const std::string& path = cl.positionals[0];
   NcLoadResult loaded;
   if (int rc = LoadNcFile(kCommand, path, cl.LoadOptions(), loaded, err); rc >= 0)

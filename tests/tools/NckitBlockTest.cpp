@@ -85,3 +85,13 @@ TEST_F(NckitBlock, HelpExitsZero) {
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_EQ(r.out.rfind("usage: nckit block", 0), 0u);
 }
+
+TEST_F(NckitBlock, BlockWithoutAddressWordsSaysSo) {
+  const ChildResult r = Block({"x10 Z5 H1"});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(r.out, "");
+  EXPECT_EQ(
+      r.err,
+      "nckit block: no address words found (addresses are the upper-case letters A to Y except H, O, Q, U "
+      "and W, each followed directly by its number)\n");
+}

@@ -108,6 +108,10 @@ int RunBlock(const NckitArgs& args, std::ostream& out, std::ostream& err) {
     for (const Word& w : words)
       out << w.address << ' ' << w.value << '\n';
   }
+  if (complete && words.empty()) {
+    err << "nckit block: no address words found (addresses are the upper-case letters A to Y except H, O, Q, "
+           "U and W, each followed directly by its number)\n";
+  }
   if (!complete) {
     err << "nckit block: malformed block (a word with a second '-' or '.', or fewer than 2 characters)\n";
     return kNckitProblem;

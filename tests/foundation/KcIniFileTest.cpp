@@ -11,8 +11,11 @@
 #include <share.h>
 #include <windows.h>
 #else
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include <csignal>
 #endif
 
 namespace {
@@ -482,6 +485,29 @@ TEST(KcIniFile, FailedWriteLeavesTheExistingFileIntact) {
   EXPECT_EQ(ini.ReadString("App", "Lang", "", false), "Eng");
   EXPECT_EQ(dir.EntryCount(), 1);
 }
+
+#if !defined(_WIN32)
+TEST(KcIniFile, WriteThatFailsHalfWayLeavesTheOldFileAndNoTemporaryFile) {
+  TempDir dir;
+  const std::string content = "[App]\nLang=Eng\n";
+  KCIniFile ini(dir.WriteFile("a.ini", content));
+  // A file-size limit below the new contents makes the write of the temporary file fail part way.
+  rlimit saved{};
+  ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &saved), 0);
+  void (*previousHandler)(int) = signal(SIGXFSZ, SIG_IGN);
+  rlimit small = saved;
+  small.rlim_cur = 64;
+  ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
+
+  const bool written = ini.WriteString("App", "Lang", std::string(1000, 'x'));
+
+  setrlimit(RLIMIT_FSIZE, &saved);
+  signal(SIGXFSZ, previousHandler);
+  EXPECT_FALSE(written);
+  EXPECT_EQ(dir.ReadFile("a.ini"), content);
+  EXPECT_EQ(dir.EntryCount(), 1);
+}
+#endif
 
 #if !defined(_WIN32)
 TEST(KcIniFile, FailedWriteInReadOnlyDirectoryLeavesTheFileIntact) {

@@ -21,6 +21,7 @@ void PrintUsage(std::ostream& out) {
             [](const NckitCommand& a, const NckitCommand& b) { return std::strcmp(a.name, b.name) < 0; });
   out << "usage: nckit <command> [arguments]\n"
          "       nckit <command> --help\n"
+         "       nckit help <command>\n"
          "       nckit --version\n\n"
          "commands:\n";
   for (const NckitCommand& c : commands) {
@@ -37,8 +38,12 @@ int main(int argc, char** argv) {
     PrintUsage(std::cerr);
     return kNckitUsage;
   }
-  const std::string first = argv[1];
-  if (first == "--help" || first == "-h" || first == "help") {
+  std::string first = argv[1];
+  // "nckit help COMMAND" is "nckit COMMAND --help".
+  const bool helpOnCommand = first == "help" && argc > 2;
+  if (helpOnCommand)
+    first = argv[2];
+  if (!helpOnCommand && (first == "--help" || first == "-h" || first == "help")) {
     PrintUsage(std::cout);
     return kNckitOk;
   }
@@ -48,7 +53,7 @@ int main(int argc, char** argv) {
   }
   for (const NckitCommand& c : NckitCommands()) {
     if (first == c.name) {
-      NckitArgs args(argv + 2, argv + argc);
+      const NckitArgs args = helpOnCommand ? NckitArgs{"--help"} : NckitArgs(argv + 2, argv + argc);
       return c.run(args, std::cout, std::cerr);
     }
   }

@@ -95,3 +95,18 @@ TEST(KcPlatform, ExecutablePathNamesThisTestProgram) {
   EXPECT_NE(KCFileMan::ExtractFileNameNoExt(path).Find(KCString("ncappkit_foundation_tests")), KCString::npos)
       << path.str();
 }
+
+#if !defined(_WIN32)
+TEST(KcPlatform, DefaultHandlerWritesCaptionAndTextToStderrAndAnswersTheDefaultButton) {
+  const KCC_MessageBoxHandler previous = KCC_SetMessageBoxHandler(nullptr);
+  ::testing::internal::CaptureStderr();
+
+  // Yes/No box with the second button as default.
+  const unsigned int answer = KCC_ShowMessageBox(nullptr, "Overwrite the file?", "Save", 0x4 | 0x20 | 0x100);
+
+  const std::string err = ::testing::internal::GetCapturedStderr();
+  KCC_SetMessageBoxHandler(previous);
+  EXPECT_EQ(answer, 7u);
+  EXPECT_EQ(err, "[Save] Overwrite the file?\n");
+}
+#endif

@@ -95,3 +95,10 @@ TEST_F(NckitBlock, BlockWithoutAddressWordsSaysSo) {
       "nckit block: no address words found (addresses are the upper-case letters A to Y except H, O, Q, U "
       "and W, each followed directly by its number)\n");
 }
+
+TEST_F(NckitBlock, FileLoadingOptionIsUnknownHere) {
+  const ChildResult r = Block({"--no-line-limit", "X1"});
+  EXPECT_EQ(r.exitCode, 2);
+  EXPECT_EQ(r.out, "");
+  EXPECT_EQ(r.err, "nckit block: unknown option '--no-line-limit' (try 'nckit block --help')\n");
+}

@@ -87,6 +87,11 @@ int RunBlock(const NckitArgs& args, std::ostream& out, std::ostream& err) {
     PrintHelp(out);
     return kNckitOk;
   }
+  // The shared parser also accepts the file-loading options; a block is no file, so they are unknown here.
+  for (const std::string& flag : cl.flags) {
+    if (flag != "--json")
+      return NcUsageError(kCommand, "unknown option '" + flag + "'", err);
+  }
   if (cl.positionals.empty())
     return NcUsageError(kCommand, "expects a BLOCK", err);
   std::string block;

@@ -102,3 +102,9 @@ TEST_F(NckitBlock, FileLoadingOptionIsUnknownHere) {
   EXPECT_EQ(r.out, "");
   EXPECT_EQ(r.err, "nckit block: unknown option '--no-line-limit' (try 'nckit block --help')\n");
 }
+
+TEST_F(NckitBlock, VInACommentOrWithoutANumberIsNoWord) {
+  EXPECT_EQ(Block({"X1 (V2)"}).out, "X 1\n");
+  EXPECT_EQ(Block({"X1 V 2"}).out, "X 1\n");
+  EXPECT_EQ(Block({"X1 (A) V-3.5"}).out, "V -3.5\nX 1\n");
+}

@@ -37,6 +37,25 @@ std::string Real(double v) {
   return text.str();
 }
 
+// True when the block holds a V word as the parser reads one: a V outside a comment followed directly by a
+// numeric character. The parser's V getter answers for the X word, so this tells whether V itself is there.
+bool HasVWord(const std::string& block) {
+  bool comment = false;
+  for (std::size_t i = 0; i < block.size(); ++i) {
+    const char c = block[i];
+    if (comment) {
+      comment = c != ')';
+    } else if (c == '(') {
+      comment = true;
+    } else if (c == 'V' && i + 1 < block.size()) {
+      const char next = block[i + 1];
+      if (next == '-' || next == '.' || (next >= '0' && next <= '9'))
+        return true;
+    }
+  }
+  return false;
+}
+
 std::vector<Word> DecodedWords(const KCC_ParseNc& p, const std::string& block) {
   std::vector<Word> words;
   int i = 0;
@@ -68,7 +87,7 @@ std::vector<Word> DecodedWords(const KCC_ParseNc& p, const std::string& block) {
   real("S", p.GetSCommand(d));
   real("R", p.GetRCommand(d));
   integer("T", p.GetTCommand(i));
-  real("V", p.GetVCommand(d) && block.find('V') != std::string::npos);
+  real("V", p.GetVCommand(d) && HasVWord(block));
   real("X", p.GetXCommand(d));
   real("Y", p.GetYCommand(d));
   return words;

@@ -168,3 +168,14 @@ TEST_F(NckitInfo, JsonTakesBytesThatAreNoUtf8AsLatin1) {
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_NE(r.out.find("\"ref\": \"CAF\\u00c9\""), std::string::npos) << r.out;
 }
+
+TEST_F(NckitInfo, NoLineLimitEndsALineAtItsFirstNulLikeTheReader) {
+  TempDir dir;
+  const std::string path = dir.WriteFile("nul.nc", std::string("O0001\nG00 X0\0Y1\r\nM30\n", 21));
+  const ChildResult limited = Info({path});
+  const ChildResult unlimited = Info({path, "--no-line-limit"});
+  EXPECT_EQ(limited.exitCode, 0);
+  EXPECT_NE(limited.out.find("main  0001         3        14\n"), std::string::npos) << limited.out;
+  EXPECT_EQ(unlimited.exitCode, 0);
+  EXPECT_EQ(unlimited.out, limited.out);
+}

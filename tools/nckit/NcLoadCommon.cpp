@@ -20,23 +20,28 @@ constexpr long long kReaderLineBudget = 999998;
 const std::set<std::string> kLoadFlags = {"--first-block", "--keep-unfinished", "--no-line-limit"};
 
 // The file's lines without a length limit: LF ends a line, a CR right before it belongs to the line end.
+// Like the file reader's lines, a line ends at its first NUL character (the rest up to the LF is dropped).
 KCStringList ReadAllLines(std::FILE* file) {
   KCStringList lines;
   std::string line;
   std::vector<char> buffer(1 << 16);
   bool pending = false;
+  bool afterNul = false;
   std::size_t got = 0;
   while ((got = std::fread(buffer.data(), 1, buffer.size(), file)) > 0) {
     for (std::size_t i = 0; i < got; ++i) {
       const char c = buffer[i];
       if (c == '\n') {
-        if (!line.empty() && line.back() == '\r')
+        if (!afterNul && !line.empty() && line.back() == '\r')
           line.pop_back();
         lines.push_back(KCString(std::move(line)));
         line.clear();
         pending = false;
+        afterNul = false;
       } else {
-        line.push_back(c);
+        afterNul = afterNul || c == '\0';
+        if (!afterNul)
+          line.push_back(c);
         pending = true;
       }
     }

@@ -4,9 +4,12 @@
 // - The declaration is <?xml version="1.0" encoding="UTF-8"?>; the tree follows, one element per line,
 //   indented by two blanks per level.
 // - Element and attribute names are the section and key names trimmed of blanks. A character that may not
-//   stand in an XML name becomes '_'; a name whose first character may not start an XML name (a digit, '-',
-//   '.') gets a leading '_'; an empty name becomes "_". ':' is kept, so "xsd:element" stays as it is. When
-//   two keys of a section give the same attribute name, the later ones get "_2", "_3", ... appended.
+//   stand in an XML name becomes '_'. Beyond ASCII only what the older XML 1.0 name rules (still applied by
+//   expat, MSXML and .NET) accept as well is kept: the letters of Latin-1, Latin Extended-A, Greek and
+//   Cyrillic, the middle dot and combining marks U+0300..U+0345 after the first character. A name whose
+//   first character may not start an XML name (a digit, '-', '.') gets a leading '_'; an empty name
+//   becomes "_". ':' is kept, so "xsd:element" stays as it is. When two keys of a section give the same
+//   attribute name, the later ones get "_2", "_3", ... appended.
 // - Text (attribute values, documentation) is taken as UTF-8: `& < > " '` become entity references; in
 //   attribute values tab, line feed and carriage return become character references so that they survive
 //   attribute-value normalisation, in documentation text only the carriage return does. A byte that is not
@@ -69,17 +72,24 @@ bool DecodeUtf8(const std::string& text, std::size_t& i, std::uint32_t& codePoin
   return true;
 }
 
+// Letters beyond ASCII that both the current XML 1.0 name rules and the older ones (still applied by expat,
+// MSXML and .NET) accept anywhere in a name: the letters of Latin-1, Latin Extended-A, Greek and Cyrillic.
+bool IsPortableNonAsciiLetter(std::uint32_t c) {
+  return (c >= 0xC0 && c <= 0xD6) || (c >= 0xD8 && c <= 0xF6) || (c >= 0xF8 && c <= 0x131) ||
+         (c >= 0x134 && c <= 0x13E) || (c >= 0x141 && c <= 0x148) || (c >= 0x14A && c <= 0x17E) ||
+         c == 0x386 || (c >= 0x388 && c <= 0x38A) || c == 0x38C || (c >= 0x38E && c <= 0x3A1) ||
+         (c >= 0x3A3 && c <= 0x3CE) || (c >= 0x401 && c <= 0x40C) || (c >= 0x40E && c <= 0x44F) ||
+         (c >= 0x451 && c <= 0x45C) || (c >= 0x45E && c <= 0x481);
+}
+
 bool IsNameStartChar(std::uint32_t c) {
   return c == ':' || (c >= 'A' && c <= 'Z') || c == '_' || (c >= 'a' && c <= 'z') ||
-         (c >= 0xC0 && c <= 0xD6) || (c >= 0xD8 && c <= 0xF6) || (c >= 0xF8 && c <= 0x2FF) ||
-         (c >= 0x370 && c <= 0x37D) || (c >= 0x37F && c <= 0x1FFF) || (c >= 0x200C && c <= 0x200D) ||
-         (c >= 0x2070 && c <= 0x218F) || (c >= 0x2C00 && c <= 0x2FEF) || (c >= 0x3001 && c <= 0xD7FF) ||
-         (c >= 0xF900 && c <= 0xFDCF) || (c >= 0xFDF0 && c <= 0xFFFD) || (c >= 0x10000 && c <= 0xEFFFF);
+         IsPortableNonAsciiLetter(c);
 }
 
 bool IsNameChar(std::uint32_t c) {
   return IsNameStartChar(c) || c == '-' || c == '.' || (c >= '0' && c <= '9') || c == 0xB7 ||
-         (c >= 0x300 && c <= 0x36F) || (c >= 0x203F && c <= 0x2040);
+         (c >= 0x300 && c <= 0x345);
 }
 
 bool IsXmlChar(std::uint32_t c) {

@@ -684,6 +684,34 @@ TEST(KcDocument, AnyBytesInNamesAndValuesStillGiveWellFormedXml) {
   EXPECT_EQ(parsed.children[1].name, "\xc3\xa9l\xc3\xa8ve");
 }
 
+TEST(KcDocument, ToXmlNamesUseOnlyLettersThatParsersOfTheOlderXmlNameRulesAlsoAccept) {
+  // U+02CD (modifier letter low macron) and U+079E (a Thaana letter) may start a name under the current
+  // XML 1.0 rules but not under the older ones that expat, MSXML and .NET apply; Latin-1, Latin
+  // Extended-A, Greek and Cyrillic letters are names under both.
+  KCDocument doc;
+  KCParagraph* root = doc.CreateRoot(
+      "Gr\xc3\xb6\xc3\x9f"
+      "e");
+  root->WriteInteger("a\xcb\x8d", 1);
+  root->WriteInteger("\xde\x9e", 2);
+  root->AddParagraph(
+      "\xc5\x81\xc3\xb3"
+      "d\xc5\xba");
+  root->AddParagraph("\xce\xa9\xd0\x96");
+
+  const std::string xml = doc.ToXml();
+
+  EXPECT_EQ(xml,
+            "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+            "<Gr\xc3\xb6\xc3\x9f"
+            "e a_=\"1\" _=\"2\">\n"
+            "  <\xc5\x81\xc3\xb3"
+            "d\xc5\xba/>\n"
+            "  <\xce\xa9\xd0\x96/>\n"
+            "</Gr\xc3\xb6\xc3\x9f"
+            "e>\n");
+}
+
 TEST(KcDocument, NestedTreeParsesBackToTheSameStructure) {
   KCDocument doc;
   KCParagraph* root = doc.CreateRoot("a");

@@ -68,3 +68,36 @@ TEST(KcIntList, ReInitListEmptiesTheList) {
   numbers.ReInitList();
   EXPECT_TRUE(numbers.empty());
 }
+
+TEST(KcStringList, InsertEraseAndIndexEditTheLinesInPlace) {
+  KCStringList lines{"a", "c"};
+
+  lines.insert(lines.begin() + 1, "b");
+  lines.erase(lines.begin());
+  lines[1] = "z";
+  lines.emplace_back("end");
+
+  EXPECT_EQ(lines, (KCStringList{"b", "z", "end"}));
+}
+
+TEST(KcStringList, ClearEmptiesTheListLikeReInitList) {
+  KCStringList lines{"a"};
+
+  lines.clear();
+
+  EXPECT_TRUE(lines.empty());
+  EXPECT_EQ(lines.begin(), lines.end());
+}
+
+TEST(KcIntList, CopyIsIndependentAndComparesByContents) {
+  KCIntList a{1, 2};
+  KCIntList b(a);
+
+  EXPECT_EQ(a, b);
+  b[1] = 5;
+  b.push_back(7);
+
+  EXPECT_EQ(a, (KCIntList{1, 2}));
+  EXPECT_EQ(b, (KCIntList{1, 5, 7}));
+  EXPECT_NE(a, b);
+}

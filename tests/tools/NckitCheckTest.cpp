@@ -1,6 +1,8 @@
 // nckit check, run as a program.
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
 #include <string>
 #include <vector>
 
@@ -160,4 +162,23 @@ TEST_F(NckitCheck, CarriageReturnsBeforeOrAfterTheLineFeedGiveNoWarning) {
   EXPECT_EQ(r1.err, "");
   EXPECT_EQ(r2.exitCode, 0);
   EXPECT_EQ(r2.err, "");
+}
+
+TEST_F(NckitCheck, UnreadableFileIsALoadErrorWithItsName) {
+  TempDir dir;
+  const std::string path = dir.WriteFile("locked.nc", "O1\nM30\n");
+  std::filesystem::permissions(path, std::filesystem::perms::none);
+  if (std::ifstream(path).is_open()) {
+    std::filesystem::permissions(path, std::filesystem::perms::owner_all);
+    GTEST_SKIP() << "file permissions do not stop this user from reading";
+  }
+  const ChildResult r = Check({path});
+  const ChildResult unlimited = Check({path, "--no-line-limit"});
+  std::filesystem::permissions(path, std::filesystem::perms::owner_all);
+  const std::string expected =
+      "nckit check: " + path + ": file cannot be opened: permission denied or not readable\n";
+  EXPECT_EQ(r.exitCode, 1);
+  EXPECT_EQ(r.err, expected);
+  EXPECT_EQ(unlimited.exitCode, 1);
+  EXPECT_EQ(unlimited.err, expected);
 }

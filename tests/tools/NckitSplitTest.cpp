@@ -109,3 +109,14 @@ TEST_F(NckitSplit, HelpExitsZero) {
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_EQ(r.out.rfind("usage: nckit split FILE -o DIR", 0), 0u);
 }
+
+TEST_F(NckitSplit, TargetThatIsADirectoryStopsTheSplitBeforeAnyWrite) {
+  TempDir dir;
+  dir.WriteFile("parts/O2000.nc/keep.txt", "mine");
+  const ChildResult r = Split({kFanucSample, "-o", dir.Path("parts"), "--force"});
+  EXPECT_EQ(r.exitCode, 1);
+  const std::string target = (std::filesystem::path(dir.Path("parts")) / "O2000.nc").string();
+  EXPECT_EQ(r.err, "nckit split: " + target + " is a directory; remove it or choose another directory\n");
+  EXPECT_EQ(r.out, "");
+  EXPECT_FALSE(dir.Exists("parts/O1000.nc"));
+}

@@ -82,6 +82,10 @@ int RunSplit(const NckitArgs& args, std::ostream& out, std::ostream& err) {
       err << "nckit split: " << target.string() << " is the input file; choose another directory\n";
       return kNckitProblem;
     }
+    if (fs::is_directory(target, ec)) {
+      err << "nckit split: " << target.string() << " is a directory; remove it or choose another directory\n";
+      return kNckitProblem;
+    }
     if (!cl.Has("--force") && fs::exists(target, ec)) {
       err << "nckit split: " << target.string() << " exists; use --force to replace it\n";
       return kNckitProblem;

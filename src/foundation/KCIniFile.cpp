@@ -19,7 +19,8 @@
 //   of the rewrite, and the last line gets one too. A new file gets CRLF on Windows and LF elsewhere. A UTF-8
 //   byte-order mark at the start is kept.
 // - Every call reads the file afresh, so changes by other programs are seen. A file that exists but cannot
-//   be read reads as empty and is never overwritten: writes to it fail. Writes through a symbolic link
+//   be read, or is no regular file (a directory, fifo or device), reads as empty and is never overwritten:
+//   writes to it fail. Writes through a symbolic link
 //   replace the file the link names; the link stays. A file name with a NUL byte names no
 //   file (the system would see only the part before it): it reads as empty and writes fail.
 // - Writes that could not be read back as written fail without touching the file: a section name with ']'
@@ -188,8 +189,13 @@ class IniText {
       m_state = State::Missing;
       return;
     }
+    // Only a regular file is opened: opening a fifo or a device could wait for a writer without end.
+    if (!std::filesystem::is_regular_file(path, error)) {
+      m_state = State::Unreadable;
+      return;
+    }
     std::ifstream in(path, std::ios::binary);
-    if (!in || !std::filesystem::is_regular_file(path, error)) {
+    if (!in) {
       m_state = State::Unreadable;
       return;
     }

@@ -11,11 +11,14 @@
 #include <share.h>
 #include <windows.h>
 #else
+#include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <csignal>
+#include <future>
 #endif
 
 namespace {
@@ -615,6 +618,30 @@ TEST(KcIniFile, WriteThroughASymbolicLinkUpdatesTheFileItNamesAndKeepsTheLink) {
   EXPECT_TRUE(S_ISLNK(info.st_mode));
   EXPECT_EQ(dir.ReadFile("real.ini"), "[App]\nLang=Fra\n");
   EXPECT_EQ(dir.EntryCount(), 2);
+}
+#endif
+
+#if !defined(_WIN32)
+TEST(KcIniFile, PathThatIsAFifoReadsAsEmptyWithoutWaitingForAWriter) {
+  TempDir dir;
+  const std::string fifo = dir.Path("pipe.ini");
+  ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
+  KCIniFile ini(fifo);
+
+  std::future<KCString> read =
+      std::async(std::launch::async, [&ini] { return ini.ReadString("App", "Lang", "Eng", false); });
+  const bool finished = read.wait_for(std::chrono::seconds(10)) == std::future_status::ready;
+  if (!finished) {
+    // Release a reader that is blocked opening the fifo: a writer that comes and goes gives it an end of
+    // file.
+    const int writer = open(fifo.c_str(), O_WRONLY);
+    if (writer >= 0)
+      close(writer);
+    FAIL() << "reading waited for a writer of the fifo";
+  }
+
+  EXPECT_EQ(read.get(), "Eng");
+  EXPECT_FALSE(ini.WriteString("App", "Lang", "Fra"));
 }
 #endif
 

@@ -1,6 +1,12 @@
 // nckit check, run as a program.
 #include <gtest/gtest.h>
 
+#if defined(_WIN32)
+#include <fcntl.h>
+#include <io.h>
+#include <share.h>
+#endif
+
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -167,6 +173,14 @@ TEST_F(NckitCheck, CarriageReturnsBeforeOrAfterTheLineFeedGiveNoWarning) {
 TEST_F(NckitCheck, UnreadableFileIsALoadErrorWithItsName) {
   TempDir dir;
   const std::string path = dir.WriteFile("locked.nc", "O1\nM30\n");
+#if defined(_WIN32)
+  // Windows: a handle that shares neither reading nor writing keeps every other open of the file out.
+  const int lock = ::_sopen(path.c_str(), _O_RDONLY | _O_BINARY, _SH_DENYRW);
+  ASSERT_NE(lock, -1);
+  const ChildResult r = Check({path});
+  const ChildResult unlimited = Check({path, "--no-line-limit"});
+  ::_close(lock);
+#else
   std::filesystem::permissions(path, std::filesystem::perms::none);
   if (std::ifstream(path).is_open()) {
     std::filesystem::permissions(path, std::filesystem::perms::owner_all);
@@ -175,6 +189,7 @@ TEST_F(NckitCheck, UnreadableFileIsALoadErrorWithItsName) {
   const ChildResult r = Check({path});
   const ChildResult unlimited = Check({path, "--no-line-limit"});
   std::filesystem::permissions(path, std::filesystem::perms::owner_all);
+#endif
   const std::string expected =
       "nckit check: " + path + ": file cannot be opened: permission denied or not readable\n";
   EXPECT_EQ(r.exitCode, 1);

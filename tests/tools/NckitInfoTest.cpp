@@ -171,7 +171,8 @@ TEST_F(NckitInfo, JsonTakesBytesThatAreNoUtf8AsLatin1) {
 
 TEST_F(NckitInfo, NoLineLimitEndsALineAtItsFirstNulLikeTheReader) {
   TempDir dir;
-  const std::string path = dir.WriteFile("nul.nc", std::string("O0001\nG00 X0\0Y1\r\nM30\n", 21));
+  // Not "nul.nc": that name is the null device on Windows.
+  const std::string path = dir.WriteFile("zero-byte.nc", std::string("O0001\nG00 X0\0Y1\r\nM30\n", 21));
   const ChildResult limited = Info({path});
   const ChildResult unlimited = Info({path, "--no-line-limit"});
   EXPECT_EQ(limited.exitCode, 0);

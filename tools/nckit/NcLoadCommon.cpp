@@ -96,11 +96,13 @@ int ParseNcCommandLine(const char* command, const std::vector<std::string>& args
     }
     const std::size_t equals = arg.find('=');
     const std::string name = arg.substr(0, equals);
-    if (valueOptions.count(name) != 0) {
+    // "--output" is the long spelling of "-o" and is stored under "-o".
+    const std::string key = name == "--output" ? "-o" : name;
+    if (valueOptions.count(key) != 0) {
       if (equals != std::string::npos) {
-        result.values[name] = arg.substr(equals + 1);
+        result.values[key] = arg.substr(equals + 1);
       } else if (i + 1 < args.size()) {
-        result.values[name] = args[++i];
+        result.values[key] = args[++i];
       } else {
         return NcUsageError(command, "option '" + name + "' needs a value", err);
       }
@@ -112,6 +114,17 @@ int ParseNcCommandLine(const char* command, const std::vector<std::string>& args
       continue;
     }
     return NcUsageError(command, "unknown option '" + arg + "'", err);
+  }
+  return -1;
+}
+
+int LoadNcFileWithoutError(const char* command, const std::string& path, const NcLoadOptions& options,
+                           NcLoadResult& result, std::ostream& err) {
+  if (int rc = LoadNcFile(command, path, options, result, err); rc >= 0)
+    return rc;
+  if (result.errorCode != 0) {
+    ReportLoadError(command, path, result, err);
+    return kNckitProblem;
   }
   return -1;
 }

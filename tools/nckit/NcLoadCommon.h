@@ -39,8 +39,9 @@ struct NcCommandLine {
 extern const char* const kNcLoadOptionsHelp;
 
 /// Parse `args`: the load options (--first-block, --keep-unfinished, --no-line-limit), --help/-h, the given
-/// extra flags and the options that take a value (as "-o DIR" or "-o=DIR"). Returns -1 when parsing
-/// succeeded, else the exit code after writing a message to `err`. "--" ends the options.
+/// extra flags and the options that take a value (as "-o DIR" or "-o=DIR"; "--output" is accepted as the
+/// long spelling of "-o" and stored under "-o"). Returns -1 when parsing succeeded, else the exit code after
+/// writing a message to `err`. "--" ends the options.
 int ParseNcCommandLine(const char* command, const std::vector<std::string>& args,
                        const std::set<std::string>& extraFlags, const std::set<std::string>& valueOptions,
                        NcCommandLine& result, std::ostream& err);
@@ -67,6 +68,11 @@ std::string NcLoadErrorName(int errorCode);
 /// ended by a carriage return alone gets a warning on `err`, since the reader sees them as one line.
 int LoadNcFile(const char* command, const std::string& path, const NcLoadOptions& options,
                NcLoadResult& result, std::ostream& err);
+
+/// LoadNcFile, and for a load that ends with an error code also ReportLoadError. Returns -1 when the file
+/// loaded without error, else the exit code (kNckitProblem for a load error).
+int LoadNcFileWithoutError(const char* command, const std::string& path, const NcLoadOptions& options,
+                           NcLoadResult& result, std::ostream& err);
 
 /// One line per problem of a failed load (the error name; for a too-long line which line it was and the
 /// --no-line-limit hint), each starting with "nckit COMMAND: ".

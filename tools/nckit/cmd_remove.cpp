@@ -24,14 +24,12 @@ void PrintHelp(std::ostream& out) {
 
 int RunRemove(const NckitArgs& args, std::ostream& out, std::ostream& err) {
   NcCommandLine cl;
-  if (int rc = ParseNcCommandLine(kCommand, args, {}, {"-o", "--output"}, cl, err); rc >= 0)
+  if (int rc = ParseNcCommandLine(kCommand, args, {}, {"-o"}, cl, err); rc >= 0)
     return rc;
   if (cl.help) {
     PrintHelp(out);
     return kNckitOk;
   }
-  if (cl.values.count("--output") != 0)
-    cl.values["-o"] = cl.values["--output"];
   if (cl.positionals.size() < 2)
     return NcUsageError(kCommand, "expects FILE and at least one NUMBER", err);
   if (cl.values.count("-o") == 0 || cl.values["-o"].empty())
@@ -43,12 +41,8 @@ int RunRemove(const NckitArgs& args, std::ostream& out, std::ostream& err) {
     return rc;
   const std::string& path = cl.positionals[0];
   NcLoadResult loaded;
-  if (int rc = LoadNcFile(kCommand, path, cl.LoadOptions(), loaded, err); rc >= 0)
+  if (int rc = LoadNcFileWithoutError(kCommand, path, cl.LoadOptions(), loaded, err); rc >= 0)
     return rc;
-  if (loaded.errorCode != 0) {
-    ReportLoadError(kCommand, path, loaded, err);
-    return kNckitProblem;
-  }
 
   KCC_NcFile& file = *loaded.file;
   bool missing = false;

@@ -34,7 +34,7 @@ void PrintHelp(std::ostream& out) {
 
 int RunSplit(const NckitArgs& args, std::ostream& out, std::ostream& err) {
   NcCommandLine cl;
-  if (int rc = ParseNcCommandLine(kCommand, args, {"--force"}, {"-o", "--output"}, cl, err); rc >= 0)
+  if (int rc = ParseNcCommandLine(kCommand, args, {"--force"}, {"-o"}, cl, err); rc >= 0)
     return rc;
   if (cl.help) {
     PrintHelp(out);
@@ -42,8 +42,6 @@ int RunSplit(const NckitArgs& args, std::ostream& out, std::ostream& err) {
   }
   if (cl.positionals.size() != 1)
     return NcUsageError(kCommand, "expects exactly one FILE", err);
-  if (cl.values.count("--output") != 0)
-    cl.values["-o"] = cl.values["--output"];
   if (cl.values.count("-o") == 0 || cl.values["-o"].empty())
     return NcUsageError(kCommand, "needs -o DIR", err);
   const std::string& path = cl.positionals[0];
@@ -55,12 +53,8 @@ int RunSplit(const NckitArgs& args, std::ostream& out, std::ostream& err) {
     return kNckitUsage;
   }
   NcLoadResult loaded;
-  if (int rc = LoadNcFile(kCommand, path, cl.LoadOptions(), loaded, err); rc >= 0)
+  if (int rc = LoadNcFileWithoutError(kCommand, path, cl.LoadOptions(), loaded, err); rc >= 0)
     return rc;
-  if (loaded.errorCode != 0) {
-    ReportLoadError(kCommand, path, loaded, err);
-    return kNckitProblem;
-  }
 
   // Decide every name first, so that nothing is written when one target may not be replaced.
   std::vector<std::pair<KCC_NcFileProgram*, fs::path>> targets;

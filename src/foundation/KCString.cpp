@@ -1,5 +1,7 @@
 #include "ncappkit/foundation/KCString.h"
 
+#include "foundation/KCCharClass.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -11,12 +13,8 @@ const std::uint64_t KCString::npos = ~std::uint64_t{0};
 
 namespace {
 
-bool IsBlank(char c) noexcept {
-  return c == ' ' || c == '\t';
-}
-bool IsDigit(char c) noexcept {
-  return c >= '0' && c <= '9';
-}
+using ncappkit_detail::IsBlank;
+using ncappkit_detail::IsDigit;
 bool IsSeparator(char c) noexcept {
   return c == '/' || c == '\\';
 }

@@ -1,13 +1,13 @@
 // CNcParameter family: rewriting parameter lines, sub-program calls and ISO command values.
 #include "ncappkit/nc/CNcParameter.h"
 
+#include "foundation/KCCharClass.h"
+
 #include <cstdint>
 
 namespace {
 
-inline bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
+using ncappkit_detail::IsDigit;
 
 // Text of a value as the creator and the ISO command write it: shortest exact form, tidied.
 KCString CleanValueText(double value) {

@@ -1,6 +1,8 @@
 // KCC_NcFile: splitting NC text into programs, reading NC files line by line and saving them.
 #include "ncappkit/nc/KCC_NcFile.h"
 
+#include "foundation/KCCharClass.h"
+
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
@@ -39,12 +41,8 @@ constexpr int kLineBudget = 999999;
 constexpr std::size_t kLineBufferSize = 128;
 constexpr std::size_t kMaxLineLength = kLineBufferSize - 1;
 
-inline bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
-inline bool IsBlank(char c) {
-  return c == ' ' || c == '\t';
-}
+using ncappkit_detail::IsBlank;
+using ncappkit_detail::IsDigit;
 
 // Length of the text as a C string would see it (up to the first NUL).
 inline std::size_t CLength(const char* p, std::size_t n) {

@@ -1,6 +1,8 @@
 // Block decoding and line tests of KCC_ParseNc.
 #include "ncappkit/nc/KCC_ParseNc.h"
 
+#include "foundation/KCCharClass.h"
+
 #include <cstring>
 
 namespace {
@@ -9,12 +11,8 @@ constexpr int kNoSlot = -1;
 constexpr int kGLetter = -2;  // G: primary or secondary slot, chosen at run time
 constexpr int kMLetter = -3;  // M: likewise
 
-inline bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
-inline bool IsBlank(char c) {
-  return c == ' ' || c == '\t';
-}
+using ncappkit_detail::IsBlank;
+using ncappkit_detail::IsDigit;
 
 // Integer arithmetic that wraps at 32 bits instead of overflowing.
 inline std::int32_t WrapMulAdd(std::int32_t value, std::int32_t factor, std::int32_t add) {

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Windows lane: cross-builds the library, its tests and nckit.exe with mingw-w64, runs every test under wine,
 # installs the build and links a consumer against the installed package, and runs `nckit.exe info` on the
 # bundled samples. With --linux-build DIR the nckit output is compared with DIR/bin/nckit's.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Hot 2D computations in ns per call: line–line, arc–line and circle–circle intersection, point–segment
 // distance and the arc sweep test, each cycling through 1024 seeded random inputs so that nothing folds to a
 // constant. Where Boost.Geometry has an equivalent (segment–segment intersection, point–segment distance) it

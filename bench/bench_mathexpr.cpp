@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Parse + evaluate of typed-in expressions with a silent reporter, and the same expressions in muparser (a
 // reused parser, SetExpr + Eval) for reference when it is available.
 //

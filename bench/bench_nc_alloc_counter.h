@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Heap accounting for the NC benchmarks: replaces the global operator new/delete of the benchmark binary
 // (and so of the shared library it loads, which resolves them here) with versions that count live bytes,
 // their peak and the number of allocations. Include it in exactly one translation unit per executable.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Decoding NC blocks with KCC_ParseNc::DecodeISOLine on a realistic mix of blocks. Reports blocks per
 // second (items_per_second) and heap allocations per block (allocs_per_block, counted by a replaced global
 // operator new; the goal is none).

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Loading a large NC file with KCC_NcFile::LoadFromFile against the floor of reading the same file with
 // std::getline into a std::vector<std::string>.
 //

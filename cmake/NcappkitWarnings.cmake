@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Strict warnings for the library and everything built with it in this tree.
 function(ncappkit_set_warnings target)
   if(MSVC)
@@ -7,7 +8,7 @@ function(ncappkit_set_warnings target)
     endif()
   else()
     target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wold-style-cast
-      -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align)
+      -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wconversion -Wsign-conversion -Wdouble-promotion)
     if(NCAPPKIT_WARNINGS_AS_ERRORS)
       target_compile_options(${target} PRIVATE -Werror)
     endif()

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Fuzz target: parse any text as an expression, write it back, and evaluate it.
 #include <cstddef>
 #include <cstdint>

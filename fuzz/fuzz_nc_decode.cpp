@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Fuzz target: block decoding of arbitrary text, then every getter.
 #include <cstddef>
 #include <cstdint>

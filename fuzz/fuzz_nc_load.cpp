@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Fuzz target: splitting text into programs. The first byte chooses the two load flags, the rest is split
 // into lines at LF; the loaded programs are then walked, counted and checked for duplicate numbers.
 #include <cstddef>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Fuzz target: numbered (#100 = value) and named (NAME = value) parameter lines.
 #include <cstddef>
 #include <cstdint>

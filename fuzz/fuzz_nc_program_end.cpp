@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Fuzz target: the end-of-program tests (M30, M99, RET) and the first-block test on NUL-terminated text.
 #include <cstddef>
 #include <cstdint>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Fuzz target: the program-number line tests of the block parser and of the file loader.
 #include <cstddef>
 #include <cstdint>

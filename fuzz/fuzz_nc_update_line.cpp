@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Fuzz target: rewriting a line through every NC parameter kind. The first bytes choose the values; the
 // rest is the line, which each kind rewrites in turn.
 #include <cstddef>

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Cross-compiles for 64-bit Windows with the mingw-w64 GCC (posix thread model) and runs the results with wine.
 #
 #   cmake --preset windows            # uses this file, builds into build/windows

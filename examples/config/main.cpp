@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // example_config: how a client program reads and changes its settings with KCC_CfgApplication.
 //
 //   example_config [file.ini [new-data-directory]]

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Export macro of the ncappkit shared library.
 //
 // Every exported class is declared `class NCAPPKIT_EXPORT Name`. Symbols are hidden by default; only what

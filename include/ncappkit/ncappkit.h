@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // ncappkit: every public header of the library in one include.
 //
 //   #include <ncappkit/ncappkit.h>

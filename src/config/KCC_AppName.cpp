@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ncappkit/config/KCC_AppName.h"
 
 #include "ncappkit/foundation/KCFileMan.h"

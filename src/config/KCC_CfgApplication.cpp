@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ncappkit/config/KCC_CfgApplication.h"
 
 namespace {

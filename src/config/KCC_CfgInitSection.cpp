@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ncappkit/config/KCC_CfgInitSection.h"
 
 KCC_CfgInitSection& KCC_CfgInitSection::operator=(const KCC_CfgInitSection& other) {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ncappkit/foundation/KCBrushStyle.h"
 
 KCBrushStyle::~KCBrushStyle() = default;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ncappkit/foundation/KCC_MessageBox.h"
 
 KCI_MessageBox::~KCI_MessageBox() = default;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ncappkit/foundation/KCC_MessageReporter.h"
 
 KCI_MessageReporter::~KCI_MessageReporter() = default;

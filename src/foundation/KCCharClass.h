@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Internal helper of the library sources: the character classes that string and NC-text code test, without
 // the process locale (std::isdigit and std::isblank depend on it).
 #pragma once

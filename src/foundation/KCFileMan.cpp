@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ncappkit/foundation/KCFileMan.h"
 
 #include <sys/stat.h>

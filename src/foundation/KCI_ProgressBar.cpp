@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ncappkit/foundation/KCI_ProgressBar.h"
 
 KCI_ProgressBar::~KCI_ProgressBar() = default;

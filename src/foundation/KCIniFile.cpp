@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCIniFile.
 //
 // File syntax and rewrite rules:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCParagraph and KCDocument.
 //
 // XML output rules (ToXml):

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "foundation/KCReplaceFile.h"
 
 #include <algorithm>

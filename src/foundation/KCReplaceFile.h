@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Internal helper of the foundation sources: replacing a file's contents without ever leaving it half
 // written.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Internal helper of the foundation sources: cutting a text at a separator character.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ncappkit/geometry/CMath2D.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ncappkit/geometry/CMathAuxShapes.h"
 
 #include <cmath>

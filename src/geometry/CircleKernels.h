@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Circle–line and circle–circle kernels shared by CMath2D (arcs, radius from the start point) and
 // CMathAuxShapes (auxiliary circles, radius from GetRadius). Private to the library.
 #pragma once

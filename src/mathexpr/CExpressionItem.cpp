@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ncappkit/mathexpr/CExpressionItem.h"
 
 #include <iterator>

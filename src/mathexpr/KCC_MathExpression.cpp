@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ncappkit/mathexpr/KCC_MathExpression.h"
 
 #include <charconv>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CNcParameter family: rewriting parameter lines, sub-program calls and ISO command values.
 #include "ncappkit/nc/CNcParameter.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCC_NcFile: splitting NC text into programs, reading NC files line by line and saving them.
 #include "ncappkit/nc/KCC_NcFile.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCC_NcFileProgram: number, reference text, lines, size and download action of one NC program.
 #include "ncappkit/nc/KCC_NcFileProgram.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCC_NcFileProgramCreator: appends new programs to its list.
 #include "ncappkit/nc/KCC_NcFileProgramCreator.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCC_NcFileProgramList: owning list of NC programs with a cursor.
 #include "ncappkit/nc/KCC_NcFileProgramList.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCC_NcProgramParametersCreator: new parameter and ISO command lines.
 #include "ncappkit/nc/KCC_NcProgramParametersCreator.h"
 

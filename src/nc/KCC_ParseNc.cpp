@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Block decoding and line tests of KCC_ParseNc.
 #include "ncappkit/nc/KCC_ParseNc.h"
 
@@ -80,7 +81,7 @@ bool ScanParameterValue(const char* text, std::size_t length, int& intValue, dou
 // Shared scan of the program-end tests. `codes` are three-character codes compared at every position
 // outside round brackets; `found[k]` is written at each such position. Returns the index of the code that
 // ended the scan, or -1.
-template <int N>
+template <std::size_t N>
 int ScanEndCodes(const char* line, const char* const (&codes)[N], bool* found[N]) {
   if (line == nullptr)
     return -1;
@@ -100,11 +101,11 @@ int ScanEndCodes(const char* line, const char* const (&codes)[N], bool* found[N]
     if (inComment)
       continue;
     int hit = -1;
-    for (int k = 0; k < N; ++k) {
+    for (std::size_t k = 0; k < N; ++k) {
       const bool match = std::memcmp(line + i, codes[k], 3) == 0;
       *found[k] = match;
       if (match)
-        hit = k;
+        hit = static_cast<int>(k);
     }
     if (hit >= 0 && (i == last || !IsDigit(line[i + 3])))
       return hit;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ncappkit/units/KCC_MmInch.h"
 
 #include <array>

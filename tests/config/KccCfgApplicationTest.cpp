@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The application settings in an INI section: defaults, loading, setters and the write-enable probe.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The scope guard of a configuration object.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reading and writing one INI section through KCC_CfgObjectIniFile.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A client program of the installed library: decodes a number, joins a path, and reports through the silent
 // reporter. It exits non-zero when any result is off, so a broken install or package cannot pass.
 #include <ncappkit/ncappkit.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The platform layer as the test program sees it: the running program's path, the version text of program
 // files, and the replaceable message-box handler. On Windows these go through GetModuleFileNameA, the files'
 // version resources and MessageBoxA; elsewhere the tests check the portable substitutes that take their

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Data-driven: each line of tests/data/geometry/arc_sweep/cases.txt is an arc with its sweep and length
 // worked out by hand.
 #include <gtest/gtest.h>

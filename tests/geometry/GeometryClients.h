@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Client-side implementations of the geometry interfaces, as a drawing program would write them on its own
 // entities: they keep their data in their own layout and record the order in which the library calls their
 // setters.

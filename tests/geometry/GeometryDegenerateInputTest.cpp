@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Degenerate input: zero-length lines, zero radius, coincident centres, points at the centre, NaN and
 // infinite coordinates. Each case returns (no crash, no endless loop) with the result stated here.
 #include <gtest/gtest.h>

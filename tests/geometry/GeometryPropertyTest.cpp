@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Property tests over many seeded random inputs. Each test states its tolerance; the seeds are fixed so a
 // failure reproduces.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Fails when a public header is missing from include/ncappkit/ncappkit.h.
 file(READ ${INCLUDE_DIR}/ncappkit/ncappkit.h umbrella)
 file(GLOB_RECURSE headers RELATIVE ${INCLUDE_DIR} ${INCLUDE_DIR}/ncappkit/*.h)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Expression items and the item list with its fixed operator priority.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The expressions of tests/data/mathexpr/expressions.txt with their results, evaluated one by one.
 #include <gtest/gtest.h>
 

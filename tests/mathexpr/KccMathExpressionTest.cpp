@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Parsing, evaluating and reporting typed-in expressions.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Rewriting NC lines through the CNcParameter kinds, and building lines with the parameters creator.
 #include <gtest/gtest.h>
 

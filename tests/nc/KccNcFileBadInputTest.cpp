@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Loading files that are damaged, odd or not NC files at all: each gives a defined result, never a crash.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCC_NcFileProgram, its list, creator and visitor.
 #include <gtest/gtest.h>
 

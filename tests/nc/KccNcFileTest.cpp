@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Splitting NC text into main programs and sub-programs, loading files and saving them.
 #include <gtest/gtest.h>
 

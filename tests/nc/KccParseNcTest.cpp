@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Decoding NC blocks and the stand-alone line tests of KCC_ParseNc.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Every real NC program of the shared corpus loads, and saving and reloading it gives the same programs.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Data-driven splitting cases: every folder of tests/data/nc/split_cases holds an NC file (input.nc), the
 // load options (options: "first-block", "keep-unfinished") and the expected programs (expected.txt, one line
 // per program: list, number, reference text, number of lines; led by "structure ..." with first-block).

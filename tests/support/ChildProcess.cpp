@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "support/ChildProcess.h"
 
 #if defined(__unix__) || defined(__APPLE__)

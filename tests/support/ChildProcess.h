@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // ChildProcess: run a program with arguments (no shell), capture its standard output and error and its exit
 // code, and stop it when it runs too long, so that tests of command-line tools can never hang.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // PlatformText: the bytes of a text file that the library or nckit writes, given as "\n"-separated text.
 // Files are written with the system's text line end, which is "\r\n" on Windows and "\n" elsewhere, so one
 // expectation serves every system:

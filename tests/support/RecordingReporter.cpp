@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "support/RecordingReporter.h"
 
 void RecordingReporter::SetHeader(const KCString& header) {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // RecordingReporter: a message reporter for tests that records every call in order, so a test can check
 // what a class under test reported.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // TempDir: a fresh, empty temporary directory for one test, removed with everything in it when the object
 // goes out of scope.
 //

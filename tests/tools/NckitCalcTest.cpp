@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // nckit calc, run as a program.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // nckit check, run as a program.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // nckit extract, run as a program.
 #include <gtest/gtest.h>
 

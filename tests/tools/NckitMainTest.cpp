@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // nckit without a subcommand, or with the general options, run as a program.
 #include <gtest/gtest.h>
 

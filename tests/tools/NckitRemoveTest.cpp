@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // nckit remove, run as a program.
 #include <gtest/gtest.h>
 

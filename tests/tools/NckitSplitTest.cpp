@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // nckit split, run as a program.
 #include <gtest/gtest.h>
 

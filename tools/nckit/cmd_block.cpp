@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // nckit block: the address words the block parser decodes from one NC block.
 //
 //   nckit block 'N10 G01 Y0.25 F300 M03'

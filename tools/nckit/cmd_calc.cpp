@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // nckit calc: evaluate a typed-in arithmetic expression with the library's evaluator.
 //
 //   nckit calc '2*(3+(4-1))'        -> 12

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // nckit check: exit 0 when an NC file loads without error and has no duplicate program numbers, 1 otherwise
 // with one line per problem.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // nckit extract: the chosen programs of an NC file, framed by '%' lines, on standard output or in a file.
 //
 //   nckit extract samples/fanuc_programs.nc 1000 8010

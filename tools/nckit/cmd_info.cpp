@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // nckit info: what an NC file holds: its structure, how the load went and a table of its programs.
 //
 //   nckit info samples/fanuc_programs.nc --first-block

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // nckit remove: all programs of an NC file except the chosen ones, written to a new file.
 //
 //   nckit remove samples/fanuc_programs.nc 8020 -o without_8020.nc

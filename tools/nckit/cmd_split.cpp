@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // nckit split: one file per program, named O<number>.nc, each framed by '%' lines.
 //
 //   nckit split samples/fanuc_programs.nc -o parts/

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // nckit units: convert a value between mm and inch, then round and format it with the library's rules for
 // one kind of quantity.
 //

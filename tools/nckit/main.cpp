@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // nckit: command-line access to ncappkit (NC files, blocks, units, expressions).
 #include <algorithm>
 #include <cstring>

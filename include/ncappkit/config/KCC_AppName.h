@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCC_AppName: the application's display name, built from its executable's file name and version.
 //
 // The name is the executable's base name (no directory, no extension), a blank, the letter V and the file's

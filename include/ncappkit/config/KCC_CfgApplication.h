@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCC_CfgApplication: the application's basic settings, kept in one configuration section.
 //
 // The section holds the user-interface language ("Lang": Ned, Fra, Eng, Dts or Ita), the unit system

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCC_CfgInitSection: a scope guard for a configuration object, deleting it at the end of the scope when it
 // was handed over as owned.
 //

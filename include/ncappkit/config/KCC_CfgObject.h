@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCC_CfgObject and KCC_CfgObjectIniFile: access to one configuration section by key.
 //
 // KCC_CfgObject is the abstract access that KCC_CfgApplication (KCC_CfgApplication.h) reads and writes

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KC2DArea: an axis-parallel bounding area that grows point by point.
 //
 // A new area is empty; the first ApplyPoint makes it the single point, later ones widen it. The extent of an

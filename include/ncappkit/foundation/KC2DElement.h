@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KC2DElement and its kinds KC2DPoint, KC2DLine, KC2DArc and KC2DRectangle: the class library's 2D drawing
 // elements, with the visitor KC2DElementVisitor that tells the kinds apart.
 //
@@ -5,10 +6,10 @@
 // (GetParametricPoint: 0 is the start, 1 the end), transformed in place (Translate, Scale, MirrorX, ...),
 // turned into a polygon (AddAsPolygon appends points to a KC2DPointList) and stored in a KCParagraph.
 //
-//   KC2DArc arc(KC2DPoint(1, 0), KC2DPoint(0, 1), KC2DPoint(0, 0), true);  // quarter circle,
-//   counter-clockwise double length = arc.Len();                                             // pi / 2
+//   KC2DArc arc(KC2DPoint(1, 0), KC2DPoint(0, 1), KC2DPoint(0, 0), true);  // quarter circle, ccw
+//   double length = arc.Len();                                               // pi / 2
 //   KC2DPointList polygon;
-//   arc.AddAsPolygonMaxAngle(polygon, 0.1);                                // start, 15 inner points, end
+//   arc.AddAsPolygonMaxAngle(polygon, 0.1);  // start, 15 inner points, end
 //
 // Conventions of all kinds:
 // - Angles are radians, counter-clockwise from +x.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KC2DElmList: an ordered list of 2D elements that owns them.
 //
 // Add hands an element (created with new) over to the list; Remove, Clear and the destructor delete it.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCBrushStyle: how closed shapes are filled: solid, or clear (not filled).
 //
 //   canvas.SetBrushStyle(KCBrushStyleClear());

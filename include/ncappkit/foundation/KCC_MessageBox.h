@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCI_MessageBox and KCC_MessageBox: a reporter that shows its text in the system's modal message box and
 // keeps the button the user pressed.
 //

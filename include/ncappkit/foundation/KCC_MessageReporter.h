@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCI_MessageReporter, KCC_MessageReporter and KCC_MessageNone: the sink that errors and information are sent
 // to.
 //

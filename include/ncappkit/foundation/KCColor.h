@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCColor: an RGBA colour value, and the named colours of the class library.
 //
 // Channels are 0..255. Named colours carry the usual web colour values; their one int argument is the alpha

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCFileMan: static file helpers: existence, file-name parts and the version text of an executable.
 //
 //   if (KCFileMan::FileExists("C:\\nc\\part.nc")) ...

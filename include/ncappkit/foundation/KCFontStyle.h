@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCFontStyle and KCFontStyles: one font style (bold, italic, underline, strike-out) and a set of them.
 //
 //   KCFontStyles styles;

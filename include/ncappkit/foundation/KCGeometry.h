@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCGeometry: static helpers on KC2DLine and KC2DPoint: perpendicular distance, perpendicular foot, and
 // whether a point lies on a closed segment.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCI_FrmMessageBox: a message form that the client draws itself (instead of the system's message box).
 //
 // The library only declares the interface; the client implements all four operations and calls them from its

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCI_MessagesFile: a source of message texts by key, implemented by the client (typically a language file
 // of the user-interface language, with sections of keys).
 //

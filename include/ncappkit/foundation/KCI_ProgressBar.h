@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCI_ProgressBar: a progress display that the client implements, which can also show a message.
 //
 // The client implements the seven pure operations; SetKccMessage is the library's entry point for showing a

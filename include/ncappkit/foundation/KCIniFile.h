@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCIniFile: reading and writing one INI file by section and key.
 //
 // Section and key names match case-insensitively, values are trimmed, comment lines (';' or '#') and lines

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCIntList: an ordered list of int with value semantics, standard-sequence style.
 //
 //   KCIntList numbers;

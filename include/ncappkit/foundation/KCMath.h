@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCMath: small numeric helpers of the class library.
 //
 //   if (KCMath::AlmostEq(a, b, 1e-6)) ...

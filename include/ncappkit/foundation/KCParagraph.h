@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCParagraph and KCDocument: a tree of named sections holding key/value pairs, and the document that owns
 // the tree and writes it as XML.
 //

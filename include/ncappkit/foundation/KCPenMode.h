@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCPenMode: how a pen combines with what is already drawn (plain copy, or NOT-XOR for rubber bands that a
 // second drawing erases).
 //

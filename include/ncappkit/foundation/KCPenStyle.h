@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCPenStyle: the dash pattern of a pen, with one subclass per kind (KCPenStyleSolid, KCPenStyleDash, ...).
 //
 // A pen style is a small value; the subclasses only choose the kind, so they copy and compare freely as

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCPlatform: the library's only contact points with the operating system's desktop services.
 //
 // - Message boxes: KCC_ShowMessageBox shows a modal box through a process-wide handler. On Windows the

@@ -1,9 +1,9 @@
+// SPDX-License-Identifier: MIT
 // KCString: the library's 8-bit character string with value semantics.
 //
 // A thin, copyable wrapper around std::string with the trimming, slicing, searching and number conversions
 // that NC-program code needs. Indices are zero-based ints; reading at or past the end (or before the start)
-// gives
-// '\0' instead of touching memory that is not there. Numbers are written and read locale-free.
+// gives '\0' instead of touching memory that is not there. Numbers are written and read locale-free.
 //
 //   KCString line("  N10 G01 X12.5");
 //   line.TrimLeft();                       // "N10 G01 X12.5"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCStringList: an ordered list of KCString with value semantics.
 //
 // NC program text is held in one of these, a line per entry. It behaves like a standard sequence (push_back,

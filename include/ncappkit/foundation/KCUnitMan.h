@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCUnitMan: the class library's unit enumerations.
 //
 // tevDistUnit is the distance unit: 0 millimetre, 1 inch, 2 inch shown in thousandths (mil).

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KC3DPoint and KCVector: a point in space and the displacement between two points.
 //
 // The 2D elements use only the x and y parts: a KC2DPoint moves by a vector with `p + v` or `p - v`.

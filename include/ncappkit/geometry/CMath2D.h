@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CMath2D: the library's 2D value types (points, line segments and circular arcs in int and double form) and
 // its static 2D computations: angles, distances, arc sweep and length, points along an arc, projections,
 // parallels, intersections, tangents and bounding boxes.

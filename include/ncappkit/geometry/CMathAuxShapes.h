@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CMathAuxShapes: the unbounded construction geometry of a drawing (infinite horizontal, vertical and angled
 // lines, full circles) as nested classes, and the static operations that measure distances to them and
 // intersect them with each other and with CMath2D's line and arc.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCI_AuxCircle: abstract access to a full construction circle: its centre and radius.
 //
 // The auxiliary-shape computations (CMathAuxShapes) read the centre through GetCenterX and GetCenterY and

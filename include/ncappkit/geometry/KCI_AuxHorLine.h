@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCI_AuxHorLine: abstract access to an infinite horizontal construction line, given by its y position.
 //
 // The auxiliary-shape computations (CMathAuxShapes) read only GetPos. The library's own implementation is

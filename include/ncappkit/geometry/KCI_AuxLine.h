@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCI_AuxLine: abstract access to an infinite construction line through a point at an angle.
 //
 // The angle is in degrees, counter-clockwise from +x; GetAngleRad and SetAngleRad are the same angle in

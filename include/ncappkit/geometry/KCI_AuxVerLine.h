@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCI_AuxVerLine: abstract access to an infinite vertical construction line, given by its x position.
 //
 // The auxiliary-shape computations (CMathAuxShapes) read only GetPos. The library's own implementation is

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCI_d2DArc: abstract access to a circular arc with double coordinates: start point, end point, centre and
 // turning sense.
 //

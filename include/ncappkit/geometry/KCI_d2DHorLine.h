@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCI_d2DHorLine: abstract access to a horizontal line segment: its y position and the x of its two ends.
 //
 // The 2D computations call only GetPosY (the third operation), when intersecting an arc with the line's

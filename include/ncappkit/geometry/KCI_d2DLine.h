@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCI_d2DLine: abstract access to a 2D line segment with double coordinates.
 //
 // The 2D computations read the four coordinates through the getters; results that are lines are written

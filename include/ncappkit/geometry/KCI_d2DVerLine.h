@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCI_d2DVerLine: abstract access to a vertical line segment: its x position and the y of its two ends.
 //
 // The 2D computations call only GetPosX (the third operation), when intersecting an arc with the line's

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCI_i2DArc: abstract access to a circular arc with int coordinates: start point, end point, centre and
 // turning sense.
 //

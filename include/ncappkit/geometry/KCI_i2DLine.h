@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCI_i2DLine: abstract access to a 2D line segment with int coordinates.
 //
 // The 2D computations read the four coordinates through the getters; results that are lines are written

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCI_i2DPoint: abstract access to a 2D point with int coordinates.
 //
 // The 2D computations read points through GetX/GetY and write results through SetX then SetY, so a client

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CExpressionItem and CExpressionItemList: the tokens of a typed-in arithmetic expression and the flat,
 // ordered list that holds them.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCC_MathExpression: evaluator for arithmetic typed by a user into a numeric field.
 //
 // Understands numbers (digits and a point, no signs or exponents inside a number), the operators * / + -,

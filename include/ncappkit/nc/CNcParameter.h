@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CNcParameter and its kinds: one adjustable value bound to one line of NC program text. When the value
 // changes, UpdateNcLine rewrites the line, keeping its name part and its comment.
 //

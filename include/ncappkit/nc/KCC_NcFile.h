@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCC_NcFile: loads an NC file (or the same text held as a KCStringList), splits it into programs, files
 // them as main programs or sub-programs, recognises the controller structure and saves the programs again.
 //

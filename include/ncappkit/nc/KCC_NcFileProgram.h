@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCC_NcFileProgram: one program of an NC file: its number, the comment of its number line (the reference
 // text), its lines, its size and the download action the client chose for it.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCC_NcFileProgramCreator: makes new, empty NC programs at the end of one program list.
 //
 //   KCC_NcFileProgramList list;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCC_NcFileProgramList: an owning list of NC programs, with lookup by number, a cursor, removal and download
 // selection.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCC_NcFileProgramVisitor: the visitor interface over NC file programs.
 //
 // Implement Visit and hand the visitor to KCC_NcFileProgram::Accept or KCC_NcFileProgramList::Accept:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCC_NcProgramParametersCreator: builds new NC lines (parameter assignments and ISO commands) and fetches
 // message texts from the client's KCI_MessagesFile.
 //

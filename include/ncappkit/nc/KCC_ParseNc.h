@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCC_ParseNc: decodes single blocks of an ISO/Fanuc-style NC program into address words.
 //
 // One DecodeISOLine call splits a block into letter/number words and keeps, for every address letter the

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KCC_MmInch, KCC_MmInch_Rounding and KCC_MmInch_Format: the user's unit selection (undefined, millimetres or
 // inches) and the rounding and text of lengths and weights in that unit.
 //

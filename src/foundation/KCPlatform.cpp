@@ -1,12 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "ncappkit/foundation/KCPlatform.h"
 
+#include "foundation/KCPlatformDetail.h"
+
 #include <atomic>
 #include <cstdio>
 #include <string>
 
 #if defined(_WIN32)
+#include <io.h>
 #include <windows.h>
+
+#include <cerrno>
 #elif defined(__APPLE__)
 #include <mach-o/dyld.h>
 #else
@@ -91,5 +96,22 @@ KCString KCC_GetExecutablePath() {
       return KCString(buffer.substr(0, static_cast<std::size_t>(n)));
     buffer.resize(buffer.size() * 2);
   }
+#endif
+}
+
+const char* KCC_GetTextLineEnd() noexcept {
+#if defined(_WIN32)
+  return "\r\n";
+#else
+  return "\n";
+#endif
+}
+
+bool ncappkit_detail::HasReadOnlyAttribute(const std::string& path) {
+#if defined(_WIN32)
+  return _access(path.c_str(), 2) != 0 && errno == EACCES;
+#else
+  (void)path;
+  return false;
 #endif
 }

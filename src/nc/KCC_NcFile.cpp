@@ -13,34 +13,22 @@
 #include <utility>
 #include <vector>
 
-#if defined(_WIN32)
-#include <io.h>
-
-#include <cerrno>
-#endif
-
+#include "foundation/KCPlatformDetail.h"
 #include "foundation/KCReplaceFile.h"
 #include "ncappkit/foundation/KCFileMan.h"
+#include "ncappkit/foundation/KCPlatform.h"
 
 namespace {
-
-constexpr int kNoError = 0;
-constexpr int kNoFileNameError = 1;
-constexpr int kFileNotFoundError = 2;
-constexpr int kFileOpenError = 3;
-constexpr int kTooManyLinesError = 4;
-constexpr int kNoNcStructureError = 5;
 
 constexpr int kFanucStructure = 0;
 constexpr int kSiemensStructure = 1;
 
 // Lines a load may consume: the budget is decremented before each line and reading stops when it drops
-// below 1, so at most kLineBudget - 1 lines are processed.
-constexpr int kLineBudget = 999999;
+// below 1, so at most kLineBudget - 1 = KCC_NcFile::kMaxLines lines are processed.
+constexpr int kLineBudget = KCC_NcFile::kMaxLines + 1;
 
-// The file reader's line buffer: 128 characters including the terminating NUL.
-constexpr std::size_t kLineBufferSize = 128;
-constexpr std::size_t kMaxLineLength = kLineBufferSize - 1;
+// The file reader's line buffer holds kMaxLineLength characters and the terminating NUL.
+constexpr std::size_t kMaxLineLength = static_cast<std::size_t>(KCC_NcFile::kMaxLineLength);
 
 using ncappkit_detail::IsBlank;
 using ncappkit_detail::IsDigit;
@@ -149,9 +137,11 @@ bool EndCommand(const char* p, std::size_t n, bool& isM30, bool& isM99, bool& is
 // buffer would see them: a line ends at LF (a CR right before it is part of the line end); a line longer
 // than 127 characters gives its first 127 characters and puts the reader into a failed state, after which
 // every read gives an empty line and the end is never reached. The line handed out ends at its first NUL.
+// Without the line limit the buffer grows to hold a line of any length and the reader never fails.
 class BufferedLineReader {
  public:
-  explicit BufferedLineReader(std::FILE* file) : m_file(file), m_buffer(kBlockSize) {}
+  BufferedLineReader(std::FILE* file, bool lineLimit)
+      : m_file(file), m_lineLimit(lineLimit), m_buffer(kBlockSize) {}
 
   // The next line in [p, p + n); false at the end of the file.
   bool Next(const char*& p, std::size_t& n) {
@@ -160,24 +150,28 @@ class BufferedLineReader {
       n = 0;
       return true;
     }
+    ++m_lineNumber;
     for (;;) {
       const char* begin = m_buffer.data() + m_pos;
       const std::size_t available = m_end - m_pos;
-      const void* lf = std::memchr(begin, '\n', available);
+      const void* lf = std::memchr(begin + m_scanned, '\n', available - m_scanned);
       if (lf != nullptr) {
         std::size_t length = static_cast<std::size_t>(static_cast<const char*>(lf) - begin);
         m_pos += length + 1;
+        m_scanned = 0;
         if (length > 0 && begin[length - 1] == '\r')
           --length;
         return Hand(begin, length, p, n);
       }
+      m_scanned = available;
       if (m_atEof) {
         if (available == 0)
           return false;
         m_pos = m_end;
+        m_scanned = 0;
         return Hand(begin, available, p, n);
       }
-      if (available > kMaxLineLength + 1) {
+      if (m_lineLimit && available > kMaxLineLength + 1) {
         // No line end within reach: this line is too long whatever follows.
         return Hand(begin, available, p, n);
       }
@@ -185,11 +179,14 @@ class BufferedLineReader {
     }
   }
 
+  // 1-based number of the line that put the reader into its failed state; 0 while it has not failed.
+  int FailedLine() const { return m_failed ? m_lineNumber : 0; }
+
  private:
   static constexpr std::size_t kBlockSize = std::size_t{1} << 20;
 
   bool Hand(const char* begin, std::size_t length, const char*& p, std::size_t& n) {
-    if (length > kMaxLineLength) {
+    if (m_lineLimit && length > kMaxLineLength) {
       m_failed = true;
       length = kMaxLineLength;
     }
@@ -198,12 +195,16 @@ class BufferedLineReader {
     return true;
   }
 
+  // Moves the unread rest to the front and reads more behind it; a buffer that the rest fills completely
+  // (a line longer than the buffer, read without the line limit) is doubled first.
   void Refill() {
     const std::size_t keep = m_end - m_pos;
     if (keep > 0 && m_pos > 0)
       std::memmove(m_buffer.data(), m_buffer.data() + m_pos, keep);
     m_pos = 0;
     m_end = keep;
+    if (m_end == m_buffer.size())
+      m_buffer.resize(m_buffer.size() * 2);
     const std::size_t got = std::fread(m_buffer.data() + m_end, 1, m_buffer.size() - m_end, m_file);
     m_end += got;
     if (got == 0)
@@ -211,9 +212,12 @@ class BufferedLineReader {
   }
 
   std::FILE* m_file;
+  const bool m_lineLimit;
   std::vector<char> m_buffer;
   std::size_t m_pos = 0;
   std::size_t m_end = 0;
+  std::size_t m_scanned = 0;  // bytes after m_pos already known to hold no LF
+  int m_lineNumber = 0;
   bool m_atEof = false;
   bool m_failed = false;
 };
@@ -347,6 +351,7 @@ KCC_NcFile::~KCC_NcFile() = default;
 
 KCC_NcFileProgram* KCC_NcFile::LoadFromStringList(const KCStringList& text, bool checkFirstBlock,
                                                   bool keepUnfinished) {
+  m_tooLongLine = 0;
   Loader loader(*this, checkFirstBlock, keepUnfinished);
   for (const KCString& line : text) {
     if (!loader.Line(line.str().data(), line.size()))
@@ -357,6 +362,17 @@ KCC_NcFileProgram* KCC_NcFile::LoadFromStringList(const KCStringList& text, bool
 
 KCC_NcFileProgram* KCC_NcFile::LoadFromFile(const KCString& fileName, bool checkFirstBlock,
                                             bool keepUnfinished) {
+  return LoadFile(fileName, checkFirstBlock, keepUnfinished, true);
+}
+
+KCC_NcFileProgram* KCC_NcFile::LoadFromFileWithoutLineLimit(const KCString& fileName, bool checkFirstBlock,
+                                                            bool keepUnfinished) {
+  return LoadFile(fileName, checkFirstBlock, keepUnfinished, false);
+}
+
+KCC_NcFileProgram* KCC_NcFile::LoadFile(const KCString& fileName, bool checkFirstBlock, bool keepUnfinished,
+                                        bool lineLimit) {
+  m_tooLongLine = 0;
   if (fileName.IsEmpty()) {
     m_errorCode = kNoFileNameError;
     return nullptr;
@@ -371,7 +387,7 @@ KCC_NcFileProgram* KCC_NcFile::LoadFromFile(const KCString& fileName, bool check
     return nullptr;
   }
   Loader loader(*this, checkFirstBlock, keepUnfinished);
-  BufferedLineReader reader(file.get());
+  BufferedLineReader reader(file.get(), lineLimit);
   const char* p = nullptr;
   std::size_t n = 0;
   while (reader.Next(p, n)) {
@@ -380,28 +396,70 @@ KCC_NcFileProgram* KCC_NcFile::LoadFromFile(const KCString& fileName, bool check
   }
   file.reset();
   KCC_NcFileProgram* result = loader.Finish();
+  m_tooLongLine = reader.FailedLine();
   if (!loader.BudgetRanOut())
     m_loadedFromFileId = fileName;
   return result;
 }
 
+int KCC_NcFile::GetTooLongLineNumber() const {
+  return m_tooLongLine;
+}
+
+std::string KCC_NcFile::GetProgramsText(const std::vector<const KCC_NcFileProgram*>& programs,
+                                        const KCString& lineEnd) {
+  std::size_t total = 2 * (1 + lineEnd.size());
+  for (const KCC_NcFileProgram* program : programs) {
+    if (program != nullptr) {
+      for (const KCString& line : program->GetStringList())
+        total += line.size() + lineEnd.size();
+    }
+  }
+  std::string text;
+  text.reserve(total);
+  auto writeLine = [&](const std::string& line) {
+    text.append(line);
+    text.append(lineEnd.str());
+  };
+  bool wroteAny = false;
+  bool lastWasPercent = false;
+  for (const KCC_NcFileProgram* program : programs) {
+    if (program == nullptr)
+      continue;
+    const KCStringList& lines = program->GetStringList();
+    if (!wroteAny && (lines.empty() || lines.front() != "%")) {
+      writeLine("%");
+      lastWasPercent = true;
+    }
+    wroteAny = true;
+    for (const KCString& line : lines) {
+      writeLine(line.str());
+      lastWasPercent = line == "%";
+    }
+  }
+  if (wroteAny && !lastWasPercent)
+    writeLine("%");
+  return text;
+}
+
 bool KCC_NcFile::SaveToFile(const KCString& fileName) {
+  std::vector<const KCC_NcFileProgram*> programs;
+  programs.reserve(static_cast<std::size_t>(GetNumberOfMainPrograms() + GetNumberOfSubPrograms()));
+  for (const KCC_NcFileProgramList* list : {&m_mainPrograms, &m_subPrograms}) {
+    for (int i = 0; i < list->GetNumberOfPrograms(); ++i)
+      programs.push_back(list->GetProgram(i));
+  }
+  return SaveProgramsToFile(fileName, programs);
+}
+
+bool KCC_NcFile::SaveProgramsToFile(const KCString& fileName,
+                                    const std::vector<const KCC_NcFileProgram*>& programs) {
   if (fileName.IsEmpty())
     return false;
-#if defined(_WIN32)
-  static const char kLineEnd[] = "\r\n";
-#else
-  static const char kLineEnd[] = "\n";
-#endif
-  const std::size_t lineEndLength = std::strlen(kLineEnd);
-
-#if defined(_WIN32)
-  // Windows never writes into a file with the read-only attribute (_access checks it). Asked for directly,
-  // because where the attribute only mirrors file permissions (wine run by an administrator) opening the
-  // file for writing may still succeed.
-  if (_access(fileName.c_str(), 2) != 0 && errno == EACCES)
+  // A file marked read-only is never written, even where opening it for writing would succeed (on Windows
+  // the attribute may only mirror permissions that an administrator overrides).
+  if (ncappkit_detail::HasReadOnlyAttribute(fileName.str()))
     return false;
-#endif
   // The target must be open for writing, as a plain truncating save needs it: a read-only file, a directory
   // or a missing folder fails here, before anything is written. Opening for appending tests that without
   // cutting the old text short (a missing file is created, as the save would create it).
@@ -410,44 +468,7 @@ bool KCC_NcFile::SaveToFile(const KCString& fileName) {
     if (!probe)
       return false;
   }
-
-  std::string text;
-  std::size_t total = 2 * (1 + lineEndLength);
-  for (const KCC_NcFileProgramList* list : {&m_mainPrograms, &m_subPrograms}) {
-    for (int i = 0; i < list->GetNumberOfPrograms(); ++i) {
-      if (const KCC_NcFileProgram* program = list->GetProgram(i)) {
-        for (const KCString& line : program->GetStringList())
-          total += line.size() + lineEndLength;
-      }
-    }
-  }
-  text.reserve(total);
-  auto writeLine = [&](const KCString& line) {
-    text.append(line.str());
-    text.append(kLineEnd, lineEndLength);
-  };
-
-  bool wroteAny = false;
-  bool lastWasPercent = false;
-  for (KCC_NcFileProgramList* list : {&m_mainPrograms, &m_subPrograms}) {
-    for (int i = 0; i < list->GetNumberOfPrograms(); ++i) {
-      const KCC_NcFileProgram* program = list->GetProgram(i);
-      if (program == nullptr)
-        continue;
-      const KCStringList& lines = program->GetStringList();
-      if (!wroteAny && (lines.empty() || lines.front() != "%")) {
-        writeLine("%");
-        lastWasPercent = true;
-      }
-      wroteAny = true;
-      for (const KCString& line : lines) {
-        writeLine(line);
-        lastWasPercent = line == "%";
-      }
-    }
-  }
-  if (wroteAny && !lastWasPercent)
-    writeLine("%");
+  const std::string text = GetProgramsText(programs, KCC_GetTextLineEnd());
 
   // The new text goes to a file beside the target that then replaces it, so a save that fails half way
   // (disk full, lost network share) leaves the old program file as it was. A symbolic link is followed, so
@@ -471,6 +492,25 @@ bool KCC_NcFile::SaveToFile(const KCString& fileName) {
   if (std::fclose(out.release()) != 0)
     ok = false;
   return ok;
+}
+
+KCString KCC_NcFile::GetErrorName(int errorCode) {
+  switch (errorCode) {
+    case kNoError:
+      return "no error";
+    case kNoFileNameError:
+      return "no file name";
+    case kFileNotFoundError:
+      return "file not found";
+    case kFileOpenError:
+      return "file cannot be opened";
+    case kTooManyLinesError:
+      return "too many lines";
+    case kNoNcStructureError:
+      return "no NC structure";
+    default:
+      return "unknown error " + std::to_string(errorCode);
+  }
 }
 
 bool KCC_NcFile::SaveToFile(const KCString& directory, const KCString& fileName) {
@@ -515,6 +555,7 @@ void KCC_NcFile::ClearAllPrograms() {
 
 void KCC_NcFile::ReInit() {
   m_loadedFromFileId = KCString();
+  m_tooLongLine = 0;
   m_errorCode = kNoError;
   ClearAllPrograms();
 }

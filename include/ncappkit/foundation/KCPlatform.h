@@ -7,6 +7,7 @@
 //   own handler with KCC_SetMessageBoxHandler, so no real window needs to open.
 // - The running program's path: KCC_GetExecutablePath (GetModuleFileNameA on Windows, /proc/self/exe on
 //   Linux, the loader's path elsewhere).
+// - The line end of text files the library writes: KCC_GetTextLineEnd (CR LF on Windows, LF elsewhere).
 //
 //   unsigned MyBox(HWND, const char* text, const char* caption, unsigned style) { return 1; }
 //   KCC_MessageBoxHandler old = KCC_SetMessageBoxHandler(&MyBox);
@@ -41,3 +42,6 @@ NCAPPKIT_EXPORT unsigned int KCC_ShowMessageBox(HWND owner, const char* text, co
 NCAPPKIT_EXPORT unsigned int KCC_DefaultMessageBoxAnswer(unsigned int style) noexcept;
 /// Full path of the running program's executable, or "" when the system cannot tell.
 NCAPPKIT_EXPORT KCString KCC_GetExecutablePath();
+/// The line end the library writes into new text files (NC programs, INI files): "\r\n" on Windows, "\n"
+/// elsewhere. Never null.
+NCAPPKIT_EXPORT const char* KCC_GetTextLineEnd() noexcept;

@@ -34,11 +34,14 @@
 //   treated as blanks.
 // - The line the program sees ends at its first NUL byte (as in a character buffer).
 // - An empty read at the very end of the file (after the last line end) is not a line.
-// - SaveToFile writes text lines: LF line ends, CR LF on Windows.
+// - SaveToFile writes text lines with the platform's line end (KCC_GetTextLineEnd: LF, CR LF on Windows).
 //
 // Copying a KCC_NcFile copies the two lists memberwise: the copies share their programs (see
 // KCC_NcFileProgramList).
 #pragma once
+
+#include <string>
+#include <vector>
 
 #include "ncappkit/export.h"
 #include "ncappkit/foundation/KCString.h"
@@ -48,6 +51,20 @@
 
 class NCAPPKIT_EXPORT KCC_NcFile {
  public:
+  /// The error codes of a load, as GetErrorCode gives them.
+  enum LoadError {
+    kNoError = 0,             ///< the last load succeeded
+    kNoFileNameError = 1,     ///< LoadFromFile got an empty file name
+    kFileNotFoundError = 2,   ///< the file does not exist (or is no regular file)
+    kFileOpenError = 3,       ///< the file exists but could not be opened for reading
+    kTooManyLinesError = 4,   ///< the line budget ran out (too many lines, or a line too long for the reader)
+    kNoNcStructureError = 5,  ///< no complete program was found
+  };
+  /// Longest line (line end not counted) that LoadFromFile reads; a longer one ends in kTooManyLinesError.
+  static constexpr int kMaxLineLength = 127;
+  /// Most lines one load reads; a text with more ends in kTooManyLinesError.
+  static constexpr int kMaxLines = 999998;
+
   /// No programs, no file id, no error, Fanuc structure.
   KCC_NcFile();
   /// Memberwise copy: the lists' pointers are copied, not the programs.
@@ -59,9 +76,17 @@ class NCAPPKIT_EXPORT KCC_NcFile {
   /// Load the file `fileName`. Returns the last program stored in a list, or null with the error code set.
   /// An empty name, a missing file and a file that cannot be opened leave the lists untouched.
   KCC_NcFileProgram* LoadFromFile(const KCString& fileName, bool checkFirstBlock, bool keepUnfinished);
+  /// LoadFromFile without the line-length limit: lines of any length are read whole (a line still ends at
+  /// its first NUL and at LF, with a CR before the LF dropped), so whatever SaveToFile writes reads back.
+  /// The line budget (kMaxLines) and the error codes are those of LoadFromFile.
+  KCC_NcFileProgram* LoadFromFileWithoutLineLimit(const KCString& fileName, bool checkFirstBlock,
+                                                  bool keepUnfinished);
   /// Load the lines of `text` (one line per entry). Returns the last program stored, or null with the error
   /// code set.
   KCC_NcFileProgram* LoadFromStringList(const KCStringList& text, bool checkFirstBlock, bool keepUnfinished);
+  /// 1-based number of the line that ended the last LoadFromFile because it was longer than kMaxLineLength;
+  /// 0 when no line was too long (also after the other loads, which have no such limit).
+  int GetTooLongLineNumber() const;
 
   /// Write the main programs, then the sub-programs, framed by '%' lines, to `fileName`. False for an empty
   /// name or when the file cannot be opened for writing (read-only, a directory, a missing folder); then
@@ -71,6 +96,17 @@ class NCAPPKIT_EXPORT KCC_NcFile {
   bool SaveToFile(const KCString& fileName);
   /// SaveToFile on the path that joins `directory` and `fileName`.
   bool SaveToFile(const KCString& directory, const KCString& fileName);
+  /// Save just `programs`, in that order, as SaveToFile saves a file's programs (same framing, line ends and
+  /// safe replace); null entries are skipped. False for an empty name or a target that cannot be written.
+  static bool SaveProgramsToFile(const KCString& fileName,
+                                 const std::vector<const KCC_NcFileProgram*>& programs);
+  /// The text SaveToFile writes for `programs`: each line followed by `lineEnd`, with a "%" line before the
+  /// first program unless its first line is "%", and one after the last line unless it is "%". Null entries
+  /// are skipped; no programs give the empty text.
+  static std::string GetProgramsText(const std::vector<const KCC_NcFileProgram*>& programs,
+                                     const KCString& lineEnd);
+  /// A short English name of a load error code ("file not found"); "unknown error N" for other codes.
+  static KCString GetErrorName(int errorCode);
 
   /// The main programs (ended by M30, or holding the first block).
   KCC_NcFileProgramList& GetMainProgList();
@@ -136,10 +172,13 @@ class NCAPPKIT_EXPORT KCC_NcFile {
  private:
   class Loader;
   friend class Loader;
+  KCC_NcFileProgram* LoadFile(const KCString& fileName, bool checkFirstBlock, bool keepUnfinished,
+                              bool lineLimit);
 
   KCC_NcFileProgramList m_mainPrograms;
   KCC_NcFileProgramList m_subPrograms;
   KCString m_loadedFromFileId;
   int m_errorCode = 0;
   int m_structure = 0;
+  int m_tooLongLine = 0;
 };

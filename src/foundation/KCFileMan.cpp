@@ -3,13 +3,10 @@
 
 #include <sys/stat.h>
 
+#include <array>
 #include <string>
 
-#include "ncappkit/version.h"
-
-#if defined(_WIN32)
-#include <windows.h>
-#endif
+#include "foundation/KCPlatformDetail.h"
 
 namespace {
 
@@ -22,10 +19,8 @@ std::size_t FileNameStart(const std::string& path) noexcept {
   std::size_t i = path.size();
   while (i > 0 && !IsSeparator(path[i - 1]))
     --i;
-#if defined(_WIN32)
-  if (i == 0 && path.size() >= 2 && path[1] == ':')
-    i = 2;  // "C:name"
-#endif
+  if (i == 0)
+    i = ncappkit_detail::DrivePrefixLength(path);  // "C:name" on Windows
   return i;
 }
 
@@ -79,35 +74,12 @@ KCString KCFileMan::ExtractFileNameNoExt(const KCString& path) {
 }
 
 KCString KCFileMan::GetFullFileVersion(const KCString& path, bool withBuild) {
-#if defined(_WIN32)
-  DWORD handle = 0;
-  const DWORD size = GetFileVersionInfoSizeA(path.c_str(), &handle);
-  if (size == 0)
+  std::array<int, 4> version{};
+  if (!ncappkit_detail::ReadFileVersion(path.str(), version))
     return KCString();
-  std::string data(size, '\0');
-  if (!GetFileVersionInfoA(path.c_str(), 0, size, data.data()))
-    return KCString();
-  VS_FIXEDFILEINFO* info = nullptr;
-  UINT infoLength = 0;
-  // The root block is the fixed part with the numeric file version; a block of another size or without the
-  // fixed part's signature is a damaged resource, which gives no version like a missing one.
-  constexpr DWORD kFixedFileInfoSignature = 0xFEEF04BD;
-  if (!VerQueryValueA(data.data(), "\\", reinterpret_cast<LPVOID*>(&info), &infoLength) || info == nullptr ||
-      infoLength < sizeof(VS_FIXEDFILEINFO) || info->dwSignature != kFixedFileInfoSignature) {
-    return KCString();
-  }
-  KCString text = KCString(static_cast<int>(HIWORD(info->dwFileVersionMS)), false) + "." +
-                  KCString(static_cast<int>(LOWORD(info->dwFileVersionMS)), false) + "." +
-                  KCString(static_cast<int>(HIWORD(info->dwFileVersionLS)), false);
+  KCString text =
+      KCString(version[0], false) + "." + KCString(version[1], false) + "." + KCString(version[2], false);
   if (withBuild)
-    text += KCString(".") + KCString(static_cast<int>(LOWORD(info->dwFileVersionLS)), false);
+    text += KCString(".") + KCString(version[3], false);
   return text;
-#else
-  if (!FileExists(path))
-    return KCString();
-  KCString text(NCAPPKIT_VERSION_STRING);
-  if (withBuild)
-    text += ".0";
-  return text;
-#endif
 }

@@ -38,16 +38,11 @@
 #include <vector>
 
 #include "foundation/KCReplaceFile.h"
+#include "ncappkit/foundation/KCPlatform.h"
 
 namespace {
 
 constexpr const char* kBom = "\xEF\xBB\xBF";
-
-#if defined(_WIN32)
-constexpr const char* kNewFileLineEnd = "\r\n";
-#else
-constexpr const char* kNewFileLineEnd = "\n";
-#endif
 
 struct IniLine {
   enum class Kind { Other, Section, UnclosedSection, Key };
@@ -267,7 +262,7 @@ class IniText {
   std::string m_fileName;
   State m_state = State::Missing;
   std::vector<IniLine> m_lines;
-  std::string m_lineEnd = kNewFileLineEnd;
+  std::string m_lineEnd = KCC_GetTextLineEnd();
   bool m_bom = false;
 };
 

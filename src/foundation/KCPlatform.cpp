@@ -3,9 +3,12 @@
 
 #include "foundation/KCPlatformDetail.h"
 
+#include <sys/stat.h>
 #include <atomic>
 #include <cstdio>
 #include <string>
+
+#include "ncappkit/version.h"
 
 #if defined(_WIN32)
 #include <io.h>
@@ -113,5 +116,55 @@ bool ncappkit_detail::HasReadOnlyAttribute(const std::string& path) {
 #else
   (void)path;
   return false;
+#endif
+}
+
+char ncappkit_detail::PathSeparator() noexcept {
+#if defined(_WIN32)
+  return '\\';
+#else
+  return '/';
+#endif
+}
+
+std::size_t ncappkit_detail::DrivePrefixLength(const std::string& path) noexcept {
+#if defined(_WIN32)
+  return path.size() >= 2 && path[1] == ':' ? 2 : 0;
+#else
+  (void)path;
+  return 0;
+#endif
+}
+
+bool ncappkit_detail::ReadFileVersion(const std::string& path, std::array<int, 4>& version) {
+  if (path.empty() || path.find('\0') != std::string::npos)
+    return false;
+#if defined(_WIN32)
+  DWORD handle = 0;
+  const DWORD size = GetFileVersionInfoSizeA(path.c_str(), &handle);
+  if (size == 0)
+    return false;
+  std::string data(size, '\0');
+  if (!GetFileVersionInfoA(path.c_str(), 0, size, data.data()))
+    return false;
+  VS_FIXEDFILEINFO* info = nullptr;
+  UINT infoLength = 0;
+  // The root block is the fixed part with the numeric file version; a block of another size or without the
+  // fixed part's signature is a damaged resource, which gives no version like a missing one.
+  constexpr DWORD kFixedFileInfoSignature = 0xFEEF04BD;
+  if (!VerQueryValueA(data.data(), "\\", reinterpret_cast<LPVOID*>(&info), &infoLength) || info == nullptr ||
+      infoLength < sizeof(VS_FIXEDFILEINFO) || info->dwSignature != kFixedFileInfoSignature) {
+    return false;
+  }
+  version = {static_cast<int>(HIWORD(info->dwFileVersionMS)), static_cast<int>(LOWORD(info->dwFileVersionMS)),
+             static_cast<int>(HIWORD(info->dwFileVersionLS)),
+             static_cast<int>(LOWORD(info->dwFileVersionLS))};
+  return true;
+#else
+  struct stat info {};
+  if (::stat(path.c_str(), &info) != 0 || (info.st_mode & S_IFMT) != S_IFREG)
+    return false;
+  version = {NCAPPKIT_VERSION_MAJOR, NCAPPKIT_VERSION_MINOR, NCAPPKIT_VERSION_PATCH, 0};
+  return true;
 #endif
 }

@@ -2,6 +2,7 @@
 #include "ncappkit/foundation/KCString.h"
 
 #include "foundation/KCCharClass.h"
+#include "foundation/KCPlatformDetail.h"
 
 #include <algorithm>
 #include <array>
@@ -19,12 +20,6 @@ using ncappkit_detail::IsDigit;
 bool IsSeparator(char c) noexcept {
   return c == '/' || c == '\\';
 }
-
-#if defined(_WIN32)
-constexpr char kPathSeparator = '\\';
-#else
-constexpr char kPathSeparator = '/';
-#endif
 
 // Number text is built in a stack buffer. Every double's exact decimal expansion ends within 1074 decimals
 // (the smallest positive double is 2^-1074), so more decimals would only add zeros; the longest text, a sign,
@@ -383,7 +378,7 @@ KCString KCString::operator&(const KCString& fileName) const {
   std::string joined;
   joined.reserve(dirEnd + 1 + fileName.m_text.size() - nameStart);
   joined.append(m_text, 0, dirEnd);
-  joined += kPathSeparator;
+  joined += ncappkit_detail::PathSeparator();
   joined.append(fileName.m_text, nameStart, std::string::npos);
   return KCString(std::move(joined));
 }

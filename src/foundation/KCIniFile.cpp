@@ -18,7 +18,8 @@
 // - Updating a key keeps its line up to and including '=' and the blanks after '=' as they were.
 // - Lines end with LF, CRLF or a lone CR. The file's first line end (CRLF, LF or CR) is used for every line
 //   of the rewrite, and the last line gets one too. A new file gets CRLF on Windows and LF elsewhere. A UTF-8
-//   byte-order mark at the start is kept.
+//   byte-order mark at the start is kept; a file whose first line starts with the mark's bytes gets a mark
+//   written in front of it, so that the line reads back whole.
 // - Every call reads the file afresh, so changes by other programs are seen. A file that exists but cannot
 //   be read, or is no regular file (a directory, fifo or device), reads as empty and is never overwritten:
 //   writes to it fail. Writes through a symbolic link
@@ -88,6 +89,15 @@ KCString Trimmed(const KCString& text) {
   return copy;
 }
 
+// Appends `name` unless the list holds it already, compared without regard to ASCII case.
+void AppendOnce(KCStringList& names, const KCString& name) {
+  for (const KCString& known : names) {
+    if (known.EqualsNoCase(name))
+      return;
+  }
+  names.push_back(name);
+}
+
 bool HasLineBreak(const KCString& text) {
   return text.Find('\n') != KCString::npos || text.Find('\r') != KCString::npos;
 }
@@ -120,6 +130,24 @@ class IniText {
   }
 
   const IniLine& Line(int index) const { return m_lines[static_cast<std::size_t>(index)]; }
+
+  // Calls visit(sectionName, keyLine) for every key line a read can find, in file order: key lines after an
+  // unclosed header belong to no section and are skipped.
+  template <class Visit>
+  void ForEachKey(Visit visit) const {
+    const KCString* section = &m_noSection;
+    bool reachable = true;
+    for (const IniLine& line : m_lines) {
+      if (line.kind == IniLine::Kind::Section) {
+        section = &line.name;
+        reachable = true;
+      } else if (line.kind == IniLine::Kind::UnclosedSection) {
+        reachable = false;
+      } else if (reachable && line.kind == IniLine::Kind::Key) {
+        visit(*section, line);
+      }
+    }
+  }
 
   // Set `key` in `section` to `value` (see the rules at the top of the file).
   void Set(const KCString& section, const KCString& key, const KCString& value) {
@@ -162,6 +190,10 @@ class IniText {
       content += line.text;
       content += m_lineEnd;
     }
+    // A first line that itself starts with the byte-order mark's bytes would lose them on the next read,
+    // which takes them for the mark: such a file gets a mark of its own in front.
+    if (!m_bom && content.compare(0, 3, kBom) == 0)
+      content.insert(0, kBom);
     // A symbolic link is followed, so the file it names gets the new contents and the link stays a link.
     std::string target = m_fileName;
     std::error_code error;
@@ -259,6 +291,7 @@ class IniText {
     return (lastKey >= 0 ? lastKey : header) + 1;
   }
 
+  const KCString m_noSection;
   std::string m_fileName;
   State m_state = State::Missing;
   std::vector<IniLine> m_lines;
@@ -350,4 +383,22 @@ bool KCIniFile::DeleteKey(const KCString& section, const KCString& key) {
   if (!ini.Remove(section, key))
     return true;
   return ini.Save();
+}
+
+KCStringList KCIniFile::GetSectionNames() {
+  KCStringList names;
+  IniText(m_fileName).ForEachKey([&](const KCString& section, const IniLine&) {
+    AppendOnce(names, section);
+  });
+  return names;
+}
+
+KCStringList KCIniFile::GetKeyNames(const KCString& section) {
+  const KCString sectionName = Trimmed(section);
+  KCStringList names;
+  IniText(m_fileName).ForEachKey([&](const KCString& name, const IniLine& line) {
+    if (name.EqualsNoCase(sectionName))
+      AppendOnce(names, line.name);
+  });
+  return names;
 }

@@ -14,6 +14,7 @@
 
 #include "ncappkit/export.h"
 #include "ncappkit/foundation/KCString.h"
+#include "ncappkit/foundation/KCStringList.h"
 
 class NCAPPKIT_EXPORT KCIniFile {
  public:
@@ -51,6 +52,14 @@ class NCAPPKIT_EXPORT KCIniFile {
   bool HasKey(const KCString& section, const KCString& key);
   /// Remove `key` from `section`. True when the file was rewritten (or the key was not there).
   bool DeleteKey(const KCString& section, const KCString& key);
+
+  /// The names of the sections that hold at least one key, in file order, each once (in the spelling of its
+  /// first header; names differing only in ASCII case are one section). "" stands for the keys before the
+  /// first header (and under "[]"). Empty for a missing or unreadable file.
+  KCStringList GetSectionNames();
+  /// The names of the keys a read of `section` finds, in file order, each once (in its first spelling).
+  /// Empty when the section has no keys, or the file is missing or unreadable.
+  KCStringList GetKeyNames(const KCString& section);
 
  private:
   KCString m_fileName;

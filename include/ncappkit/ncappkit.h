@@ -24,6 +24,7 @@
 #include "ncappkit/foundation/KCUnitMan.h"
 // foundation: messages
 #include "ncappkit/foundation/KCC_MessageBox.h"
+#include "ncappkit/foundation/KCC_MessageKeeper.h"
 #include "ncappkit/foundation/KCC_MessageReporter.h"
 #include "ncappkit/foundation/KCI_FrmMessageBox.h"
 #include "ncappkit/foundation/KCI_MessagesFile.h"

@@ -4,11 +4,13 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ncappkit/foundation/KCMath.h"
 #include "ncappkit/foundation/KCParagraph.h"
 
 namespace {
 
-constexpr double kTwoPi = 6.283185307179586;
+// A full turn; doubling KCMath::Pi is exact.
+constexpr double kTwoPi = 2.0 * KCMath::Pi;
 // Start and end of an arc closer than this in each coordinate make a full circle.
 constexpr double kArcCircleTolerance = 1e-9;
 // AddAsPolygon of an arc: largest angle swept by one polygon edge (5 degrees).

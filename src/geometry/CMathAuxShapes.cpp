@@ -7,6 +7,8 @@
 
 using ncappkit_geometry::CircleCircle;
 using ncappkit_geometry::HorLineCircle;
+using ncappkit_geometry::kAxisLineMissTolerance;
+using ncappkit_geometry::kAxisLineTangentTolerance;
 using ncappkit_geometry::SetPoint;
 using ncappkit_geometry::VerLineCircle;
 
@@ -24,10 +26,9 @@ constexpr double kAuxParallelTolerance = 1e-5;
 constexpr double kAuxCircleSlopeTolerance = 1e-5;
 // Circle–aux line: discriminants below -this miss (no snapping of small negatives to 0 here).
 constexpr double kAuxCircleDiscriminantTolerance = 1e-6;
-// Arc–axis line: a line closer than this to the top/bottom (right/left) of the circle touches it.
-constexpr double kArcAxisTangentTolerance = 1e-4;
-// Arc–axis line: a line farther than r + this from the centre misses.
-constexpr double kArcAxisMissTolerance = 1e-5;
+// Arc–axis line: the touch and miss tolerances are those of the circle–axis line kernels
+// (kAxisLineTangentTolerance, kAxisLineMissTolerance in geometry/CircleKernels.h), so an arc and its full
+// circle find the same candidate points on a horizontal or vertical line.
 
 // Nearest whole multiple check shared by the two predicates: |q - trunc(q + tol)| < tol.
 bool IsWholeMultiple(double q) {
@@ -316,7 +317,7 @@ int CMathAuxShapes::GetIntersection(const CMath2D::Cd2DArc& arc, const KCI_AuxHo
   const double r = CMath2D::GetArcRadius(arc);
   const double cx = arc.GetCenterX();
   const double cy = arc.GetCenterY();
-  if (std::fabs(cy + r - y) < kArcAxisTangentTolerance) {
+  if (std::fabs(cy + r - y) < kAxisLineTangentTolerance) {
     const CMath2D::Cd2DPoint touch(cx, y);
     if (!CMath2D::PointIsBetweenStartAndEndWc(arc, touch)) {
       return 0;
@@ -324,7 +325,7 @@ int CMathAuxShapes::GetIntersection(const CMath2D::Cd2DArc& arc, const KCI_AuxHo
     p1 = touch;  // the top touch writes p1 only
     return 1;
   }
-  if (std::fabs(cy - r - y) < kArcAxisTangentTolerance) {
+  if (std::fabs(cy - r - y) < kAxisLineTangentTolerance) {
     const CMath2D::Cd2DPoint touch(cx, y);
     if (!CMath2D::PointIsBetweenStartAndEndWc(arc, touch)) {
       return 0;
@@ -334,7 +335,7 @@ int CMathAuxShapes::GetIntersection(const CMath2D::Cd2DArc& arc, const KCI_AuxHo
     return 1;
   }
   const double dy = y - cy;
-  if (std::fabs(dy) > r + kArcAxisMissTolerance) {
+  if (std::fabs(dy) > r + kAxisLineMissTolerance) {
     return 0;
   }
   const double h = std::sqrt(r * r - dy * dy);
@@ -364,7 +365,7 @@ int CMathAuxShapes::GetIntersection(const CMath2D::Cd2DArc& arc, const KCI_AuxVe
   const double r = CMath2D::GetArcRadius(arc);
   const double cx = arc.GetCenterX();
   const double cy = arc.GetCenterY();
-  if (std::fabs(cx + r - x) < kArcAxisTangentTolerance) {
+  if (std::fabs(cx + r - x) < kAxisLineTangentTolerance) {
     const CMath2D::Cd2DPoint touch(x, cy);
     if (!CMath2D::PointIsBetweenStartAndEndWc(arc, touch)) {
       return 0;
@@ -372,7 +373,7 @@ int CMathAuxShapes::GetIntersection(const CMath2D::Cd2DArc& arc, const KCI_AuxVe
     p1 = touch;  // the right touch writes p1 only
     return 1;
   }
-  if (std::fabs(cx - r - x) < kArcAxisTangentTolerance) {
+  if (std::fabs(cx - r - x) < kAxisLineTangentTolerance) {
     const CMath2D::Cd2DPoint touch(x, cy);
     if (!CMath2D::PointIsBetweenStartAndEndWc(arc, touch)) {
       return 0;
@@ -382,7 +383,7 @@ int CMathAuxShapes::GetIntersection(const CMath2D::Cd2DArc& arc, const KCI_AuxVe
     return 1;
   }
   const double dx = x - cx;
-  if (std::fabs(dx) > r + kArcAxisMissTolerance) {
+  if (std::fabs(dx) > r + kAxisLineMissTolerance) {
     return 0;
   }
   const double h = std::sqrt(r * r - dx * dx);

@@ -10,6 +10,7 @@
 namespace ncappkit_geometry {
 
 // A horizontal or vertical line closer than this to the top/bottom (left/right) of a circle touches it.
+// Also the arc–axis line intersections of CMathAuxShapes.cpp use this and the next one.
 constexpr double kAxisLineTangentTolerance = 1e-4;
 // A horizontal or vertical line farther than r + this from the centre misses the circle.
 constexpr double kAxisLineMissTolerance = 1e-5;

@@ -24,6 +24,7 @@
 #include "ncappkit/export.h"
 #include "ncappkit/foundation/KC2DArea.h"
 #include "ncappkit/foundation/KC2DElement.h"
+#include "ncappkit/foundation/KCMath.h"
 #include "ncappkit/geometry/KCI_d2DArc.h"
 #include "ncappkit/geometry/KCI_d2DHorLine.h"
 #include "ncappkit/geometry/KCI_d2DLine.h"
@@ -33,6 +34,7 @@
 #include "ncappkit/geometry/KCI_i2DLine.h"
 #include "ncappkit/geometry/KCI_i2DPoint.h"
 
+/// The library's 2D value types (int and double points, lines, arcs) and its static 2D computations.
 class NCAPPKIT_EXPORT CMath2D {
  public:
   // ----- value types ------------------------------------------------------------------------------------
@@ -44,7 +46,9 @@ class NCAPPKIT_EXPORT CMath2D {
     Ci2DPoint() = default;
     /// The point (x, y).
     Ci2DPoint(int x, int y) noexcept : m_x(x), m_y(y) {}
+    /// The same coordinates.
     Ci2DPoint(const Ci2DPoint&) = default;
+    /// Take the other point's coordinates; returns *this.
     Ci2DPoint& operator=(const Ci2DPoint&) = default;
     ~Ci2DPoint() override;
 
@@ -69,7 +73,9 @@ class NCAPPKIT_EXPORT CMath2D {
     Cd2DPoint() = default;
     /// The point (x, y).
     Cd2DPoint(double x, double y) noexcept : m_x(x), m_y(y) {}
+    /// The same coordinates.
     Cd2DPoint(const Cd2DPoint&) = default;
+    /// Take the other point's coordinates; returns *this.
     Cd2DPoint& operator=(const Cd2DPoint&) = default;
     ~Cd2DPoint() override;
 
@@ -107,7 +113,9 @@ class NCAPPKIT_EXPORT CMath2D {
     /// The segment from (startX, startY) to (endX, endY).
     Ci2DLine(int startX, int startY, int endX, int endY) noexcept
         : m_startX(startX), m_startY(startY), m_endX(endX), m_endY(endY) {}
+    /// The same start and end.
     Ci2DLine(const Ci2DLine&) = default;
+    /// Take the other line's start and end; returns *this.
     Ci2DLine& operator=(const Ci2DLine&) = default;
     ~Ci2DLine() override;
 
@@ -145,7 +153,9 @@ class NCAPPKIT_EXPORT CMath2D {
         : m_startX(startX), m_startY(startY), m_endX(endX), m_endY(endY) {}
     /// The segment between two points, read through their GetX/GetY.
     Cd2DLine(const KCI_d2DPoint& start, const KCI_d2DPoint& end);
+    /// The same start and end.
     Cd2DLine(const Cd2DLine&) = default;
+    /// Take the other line's start and end; returns *this.
     Cd2DLine& operator=(const Cd2DLine&) = default;
     ~Cd2DLine() override;
 
@@ -187,7 +197,9 @@ class NCAPPKIT_EXPORT CMath2D {
           m_endY(endY),
           m_centerX(centerX),
           m_centerY(centerY) {}
+    /// The same turning sense, start, end and centre.
     Ci2DArc(const Ci2DArc&) = default;
+    /// Take the other arc's turning sense and points; returns *this.
     Ci2DArc& operator=(const Ci2DArc&) = default;
     ~Ci2DArc() override;
 
@@ -256,7 +268,9 @@ class NCAPPKIT_EXPORT CMath2D {
     /// The same arc in double form: the turning sense copied, each int coordinate converted exactly (read
     /// through the int arc's accessors).
     explicit Cd2DArc(const Ci2DArc& arc);
+    /// The same turning sense, start, end and centre.
     Cd2DArc(const Cd2DArc&) = default;
+    /// Take the other arc's turning sense and points; returns *this.
     Cd2DArc& operator=(const Cd2DArc&) = default;
     ~Cd2DArc() override;
 
@@ -314,28 +328,35 @@ class NCAPPKIT_EXPORT CMath2D {
   /// neither clockwise nor counter-clockwise. It carries nothing.
   class NCAPPKIT_EXPORT IMath2DException {
    public:
+    /// The exception (it carries nothing).
     IMath2DException() = default;
+    /// Nothing to copy: the class holds no data.
     IMath2DException(const IMath2DException&) = default;
+    /// Nothing to move: the class holds no data.
     IMath2DException(IMath2DException&&) = default;
+    /// Nothing to assign: the class holds no data; returns *this.
     IMath2DException& operator=(const IMath2DException&) = default;
+    /// Nothing to assign: the class holds no data; returns *this.
     IMath2DException& operator=(IMath2DException&&) = default;
   };
 
   // ----- the toolbox itself holds nothing -------------------------------------------------------------
 
   CMath2D() = default;
+  /// Nothing to copy: the class holds no data.
   CMath2D(const CMath2D&) = default;
+  /// Nothing to assign: the class holds no data; returns *this.
   CMath2D& operator=(const CMath2D&) = default;
   virtual ~CMath2D();
 
   // ----- constants and angle conversion ---------------------------------------------------------------
 
-  /// 3.141592653589793.
-  static double PI() noexcept { return 3.141592653589793; }
-  /// 1.5707963267948966.
-  static double HalfPI() noexcept { return 1.5707963267948966; }
-  /// 6.283185307179586.
-  static double DoublePI() noexcept { return 6.283185307179586; }
+  /// KCMath::Pi (3.141592653589793).
+  static double PI() noexcept { return KCMath::Pi; }
+  /// KCMath::Pi / 2 (1.5707963267948966; halving is exact).
+  static double HalfPI() noexcept { return KCMath::Pi / 2.0; }
+  /// 2 * KCMath::Pi (6.283185307179586; doubling is exact).
+  static double DoublePI() noexcept { return 2.0 * KCMath::Pi; }
   /// a * pi / 180 (multiplication first).
   static double Deg2Rad(double a) noexcept { return a * PI() / 180.0; }
   /// a * 180 / pi (multiplication first).

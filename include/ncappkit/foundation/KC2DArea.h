@@ -11,11 +11,14 @@
 
 #include "ncappkit/export.h"
 
+/// An axis-parallel bounding area that grows point by point; empty until the first point.
 class NCAPPKIT_EXPORT KC2DArea {
  public:
   /// An empty area.
   KC2DArea() = default;
+  /// The same extent (and emptiness).
   KC2DArea(const KC2DArea&) = default;
+  /// Take the other area's extent and emptiness; returns *this.
   KC2DArea& operator=(const KC2DArea&) = default;
   virtual ~KC2DArea();
 

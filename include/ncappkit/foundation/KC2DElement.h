@@ -41,10 +41,13 @@ class KC2DRectangle;
 /// Points appended by AddAsPolygon and by the arc anchor computations.
 using KC2DPointList = std::vector<KC2DPoint>;
 
+/// Visitor over the kinds of 2D element; Accept calls the Visit of the element's kind.
 class NCAPPKIT_EXPORT KC2DElementVisitor {
  public:
   KC2DElementVisitor() = default;
+  /// Nothing to copy: the class holds no data.
   KC2DElementVisitor(const KC2DElementVisitor&) = default;
+  /// Nothing to assign: the class holds no data; returns *this.
   KC2DElementVisitor& operator=(const KC2DElementVisitor&) = default;
   virtual ~KC2DElementVisitor();
 
@@ -58,10 +61,13 @@ class NCAPPKIT_EXPORT KC2DElementVisitor {
   virtual bool Visit(KC2DRectangle& rectangle) = 0;
 };
 
+/// Abstract 2D drawing element: measured, walked along, transformed in place, stored in a KCParagraph.
 class NCAPPKIT_EXPORT KC2DElement {
  public:
   KC2DElement() = default;
+  /// Nothing to copy: the class holds no data.
   KC2DElement(const KC2DElement&) = default;
+  /// Nothing to assign: the class holds no data; returns *this.
   KC2DElement& operator=(const KC2DElement&) = default;
   virtual ~KC2DElement() = default;
 
@@ -118,13 +124,16 @@ class NCAPPKIT_EXPORT KC2DElement {
   virtual bool Write(const KCString& name, KCParagraph* paragraph, int digits) const = 0;
 };
 
+/// A 2D point with double coordinates, also an element of its own.
 class NCAPPKIT_EXPORT KC2DPoint : public KC2DElement {
  public:
   /// The origin.
   KC2DPoint() = default;
   /// The point (x, y).
   KC2DPoint(double x, double y) noexcept : m_x(x), m_y(y) {}
+  /// The same coordinates.
   KC2DPoint(const KC2DPoint&) = default;
+  /// Take the other point's coordinates; returns *this.
   KC2DPoint& operator=(const KC2DPoint&) = default;
   ~KC2DPoint() override = default;
 
@@ -220,6 +229,7 @@ class NCAPPKIT_EXPORT KC2DPoint : public KC2DElement {
   double m_y = 0.0;
 };
 
+/// A line segment from a start point to an end point.
 class NCAPPKIT_EXPORT KC2DLine : public KC2DElement {
  public:
   /// A zero-length line at the origin.
@@ -228,7 +238,9 @@ class NCAPPKIT_EXPORT KC2DLine : public KC2DElement {
   KC2DLine(const KC2DPoint& start, const KC2DPoint& end) noexcept : m_start(start), m_end(end) {}
   /// The segment from (x1, y1) to (x2, y2).
   KC2DLine(double x1, double y1, double x2, double y2) noexcept : m_start(x1, y1), m_end(x2, y2) {}
+  /// The same start and end.
   KC2DLine(const KC2DLine&) = default;
+  /// Take the other line's start and end; returns *this.
   KC2DLine& operator=(const KC2DLine&) = default;
   ~KC2DLine() override = default;
 
@@ -265,6 +277,7 @@ class NCAPPKIT_EXPORT KC2DLine : public KC2DElement {
   void MirrorX() override;
   /// Mirror at the y axis.
   void MirrorY() override;
+  /// Exchange start and end (the path is unchanged).
   void Reverse() override;
   /// Turn the axes counter-clockwise by angleRad about the origin (the element turns clockwise).
   void RotateAxis(double angleRad) override;
@@ -291,6 +304,7 @@ class NCAPPKIT_EXPORT KC2DLine : public KC2DElement {
 // An arc is its start point, end point, centre and turning sense. The radius is the distance from the
 // centre to the start point; the end point is taken as given (an inconsistent end only shifts the end angle).
 // Start and end within 1e-9 of each other make a full circle.
+/// A circular arc: start, end, centre and turning sense; the radius follows the start point.
 class NCAPPKIT_EXPORT KC2DArc : public KC2DElement {
  public:
   /// A zero-radius counter-clockwise circle at the origin.
@@ -298,7 +312,9 @@ class NCAPPKIT_EXPORT KC2DArc : public KC2DElement {
   /// The arc from `start` to `end` around `center`, counter-clockwise when `ccw` is true.
   KC2DArc(const KC2DPoint& start, const KC2DPoint& end, const KC2DPoint& center, bool ccw) noexcept
       : m_start(start), m_end(end), m_center(center), m_ccw(ccw) {}
+  /// The same start, end, centre and turning sense.
   KC2DArc(const KC2DArc&) = default;
+  /// Take the other arc's points and turning sense; returns *this.
   KC2DArc& operator=(const KC2DArc&) = default;
   ~KC2DArc() override = default;
 
@@ -399,6 +415,7 @@ class NCAPPKIT_EXPORT KC2DArc : public KC2DElement {
 // An axis-parallel rectangle kept as its smallest and largest corner. Its outline starts and ends at the
 // smallest corner and runs counter-clockwise; transformations keep it axis-parallel by taking the bounding
 // box of the transformed corners (exact for quarter turns, mirrors and scaling).
+/// An axis-parallel rectangle kept as its smallest and largest corner.
 class NCAPPKIT_EXPORT KC2DRectangle : public KC2DElement {
  public:
   /// An empty rectangle at the origin.
@@ -407,7 +424,9 @@ class NCAPPKIT_EXPORT KC2DRectangle : public KC2DElement {
   KC2DRectangle(double x1, double y1, double x2, double y2) noexcept;
   /// The rectangle spanned by two opposite corners, in any order.
   KC2DRectangle(const KC2DPoint& a, const KC2DPoint& b) noexcept;
+  /// The same corners.
   KC2DRectangle(const KC2DRectangle&) = default;
+  /// Take the other rectangle's corners; returns *this.
   KC2DRectangle& operator=(const KC2DRectangle&) = default;
   ~KC2DRectangle() override = default;
 

@@ -18,8 +18,10 @@
 #include "ncappkit/foundation/KC2DArea.h"
 #include "ncappkit/foundation/KC2DElement.h"
 
+/// An ordered list of 2D elements that owns them; a copy clones every element.
 class NCAPPKIT_EXPORT KC2DElmList {
  public:
+  /// Read-only iterator over the entries (element pointers, null entries included).
   using const_iterator = std::vector<KC2DElement*>::const_iterator;
 
   /// An empty list.

@@ -7,6 +7,7 @@
 #include "ncappkit/export.h"
 #include "ncappkit/foundation/KCString.h"
 
+/// How closed shapes are filled: solid, or clear (not filled).
 class NCAPPKIT_EXPORT KCBrushStyle {
  public:
   /// The fill kinds.
@@ -16,7 +17,9 @@ class NCAPPKIT_EXPORT KCBrushStyle {
   KCBrushStyle() = default;
   /// The given fill.
   explicit KCBrushStyle(Kind kind) : m_kind(kind) {}
+  /// The same fill kind.
   KCBrushStyle(const KCBrushStyle&) = default;
+  /// Take the other's fill kind; returns *this.
   KCBrushStyle& operator=(const KCBrushStyle&) = default;
   virtual ~KCBrushStyle();
 
@@ -28,9 +31,11 @@ class NCAPPKIT_EXPORT KCBrushStyle {
   /// Style named by `text` (case-insensitive); an unknown text gives a solid brush.
   static KCBrushStyle FromString(const KCString& text);
 
+  /// True when both have the same fill kind.
   friend bool operator==(const KCBrushStyle& a, const KCBrushStyle& b) noexcept {
     return a.m_kind == b.m_kind;
   }
+  /// True when the fill kinds differ.
   friend bool operator!=(const KCBrushStyle& a, const KCBrushStyle& b) noexcept {
     return a.m_kind != b.m_kind;
   }

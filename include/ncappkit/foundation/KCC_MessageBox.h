@@ -34,7 +34,9 @@
 class NCAPPKIT_EXPORT KCI_MessageBox : public KCC_MessageReporter {
  public:
   KCI_MessageBox() = default;
+  /// Nothing to copy: the class holds no data.
   KCI_MessageBox(const KCI_MessageBox&) = default;
+  /// Nothing to assign: the class holds no data; returns *this.
   KCI_MessageBox& operator=(const KCI_MessageBox&) = default;
   ~KCI_MessageBox() override;
 
@@ -130,7 +132,9 @@ class NCAPPKIT_EXPORT KCC_MessageBox : public KCI_MessageBox {
   explicit KCC_MessageBox(HWND& owner);
   /// As the default box, owned by the window in `owner`, with the given caption and text.
   KCC_MessageBox(HWND& owner, const KCString& header, const KCString& message);
+  /// A copy with the same texts, settings, owner and last answer.
   KCC_MessageBox(const KCC_MessageBox&) = default;
+  /// Take over texts, settings, owner and last answer of the other box; returns *this.
   KCC_MessageBox& operator=(const KCC_MessageBox&) = default;
   ~KCC_MessageBox() override;
 

@@ -27,6 +27,7 @@
 #include "ncappkit/foundation/KCString.h"
 #include "ncappkit/foundation/KCStringList.h"
 
+/// A silent reporter that keeps the messages and reports it is given (a bounded history).
 class NCAPPKIT_EXPORT KCC_MessageKeeper : public KCC_MessageReporter {
  public:
   /// One DoReport: the header and the message as they stood then.

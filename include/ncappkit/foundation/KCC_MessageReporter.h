@@ -22,7 +22,9 @@
 class NCAPPKIT_EXPORT KCI_MessageReporter {
  public:
   KCI_MessageReporter() = default;
+  /// Nothing to copy: the class holds no data.
   KCI_MessageReporter(const KCI_MessageReporter&) = default;
+  /// Nothing to assign: the class holds no data; returns *this.
   KCI_MessageReporter& operator=(const KCI_MessageReporter&) = default;
   virtual ~KCI_MessageReporter();
 
@@ -42,7 +44,9 @@ class NCAPPKIT_EXPORT KCI_MessageReporter {
 class NCAPPKIT_EXPORT KCC_MessageReporter : public KCI_MessageReporter {
  public:
   KCC_MessageReporter() = default;
+  /// Nothing to copy: the class holds no data.
   KCC_MessageReporter(const KCC_MessageReporter&) = default;
+  /// Nothing to assign: the class holds no data; returns *this.
   KCC_MessageReporter& operator=(const KCC_MessageReporter&) = default;
   ~KCC_MessageReporter() override;
 
@@ -62,7 +66,9 @@ class NCAPPKIT_EXPORT KCC_MessageReporter : public KCI_MessageReporter {
 class NCAPPKIT_EXPORT KCC_MessageNone : public KCC_MessageReporter {
  public:
   KCC_MessageNone() = default;
+  /// Nothing to copy: the class holds no data.
   KCC_MessageNone(const KCC_MessageNone&) = default;
+  /// Nothing to assign: the class holds no data; returns *this.
   KCC_MessageNone& operator=(const KCC_MessageNone&) = default;
   ~KCC_MessageNone() override;
 

@@ -11,13 +11,16 @@
 #include "ncappkit/export.h"
 #include "ncappkit/foundation/KCString.h"
 
+/// An RGBA colour value, channels 0..255.
 class NCAPPKIT_EXPORT KCColor {
  public:
   /// Opaque black.
   KCColor() = default;
   /// Colour from its channels; each is clamped to 0..255.
   KCColor(int red, int green, int blue, int alpha = 255);
+  /// The same four channels.
   KCColor(const KCColor&) = default;
+  /// Take the other colour's four channels; returns *this.
   KCColor& operator=(const KCColor&) = default;
   virtual ~KCColor();
 
@@ -40,6 +43,7 @@ class NCAPPKIT_EXPORT KCColor {
   friend bool operator==(const KCColor& a, const KCColor& b) noexcept {
     return a.m_red == b.m_red && a.m_green == b.m_green && a.m_blue == b.m_blue && a.m_alpha == b.m_alpha;
   }
+  /// True when any channel differs.
   friend bool operator!=(const KCColor& a, const KCColor& b) noexcept { return !(a == b); }
 
  private:

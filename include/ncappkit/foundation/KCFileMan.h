@@ -8,6 +8,7 @@
 #include "ncappkit/export.h"
 #include "ncappkit/foundation/KCString.h"
 
+/// Static file helpers: existence, file-name parts and the version text of an executable.
 class NCAPPKIT_EXPORT KCFileMan {
  public:
   /// True when `path` names an existing regular file (a directory is not a file); false for a path with a

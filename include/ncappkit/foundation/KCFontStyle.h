@@ -10,6 +10,7 @@
 #include "ncappkit/export.h"
 #include "ncappkit/foundation/KCString.h"
 
+/// One font style: bold, italic, underline or strike-out.
 class NCAPPKIT_EXPORT KCFontStyle {
  public:
   /// The styles; the values are bit positions in a KCFontStyles set.
@@ -17,14 +18,18 @@ class NCAPPKIT_EXPORT KCFontStyle {
 
   /// A style of the given kind.
   explicit KCFontStyle(Kind kind) : m_kind(kind) {}
+  /// The same style.
   KCFontStyle(const KCFontStyle&) = default;
+  /// Take the other's style; returns *this.
   KCFontStyle& operator=(const KCFontStyle&) = default;
   virtual ~KCFontStyle();
 
   /// The style.
   Kind GetKind() const noexcept { return m_kind; }
 
+  /// True when both have the same style.
   friend bool operator==(const KCFontStyle& a, const KCFontStyle& b) noexcept { return a.m_kind == b.m_kind; }
+  /// True when the styles differ.
   friend bool operator!=(const KCFontStyle& a, const KCFontStyle& b) noexcept { return a.m_kind != b.m_kind; }
 
  private:
@@ -57,7 +62,9 @@ class NCAPPKIT_EXPORT KCFontStyles {
  public:
   /// The empty set (regular font).
   KCFontStyles() = default;
+  /// The same set.
   KCFontStyles(const KCFontStyles&) = default;
+  /// Take the other set's styles; returns *this.
   KCFontStyles& operator=(const KCFontStyles&) = default;
   virtual ~KCFontStyles();
 
@@ -78,9 +85,11 @@ class NCAPPKIT_EXPORT KCFontStyles {
   /// Set named by a text of ToString's form (case-insensitive, blanks ignored); unknown names are skipped.
   static KCFontStyles FromString(const KCString& text);
 
+  /// True when both sets hold the same styles.
   friend bool operator==(const KCFontStyles& a, const KCFontStyles& b) noexcept {
     return a.m_bits == b.m_bits;
   }
+  /// True when the sets differ in any style.
   friend bool operator!=(const KCFontStyles& a, const KCFontStyles& b) noexcept {
     return a.m_bits != b.m_bits;
   }

@@ -16,6 +16,7 @@
 #include "ncappkit/export.h"
 #include "ncappkit/foundation/KC2DElement.h"
 
+/// Static helpers on KC2DLine and KC2DPoint: perpendicular distance, foot, and point on a closed segment.
 class NCAPPKIT_EXPORT KCGeometry {
  public:
   /// Point2DOnClosedLine: the point is not on the closed segment.
@@ -30,7 +31,9 @@ class NCAPPKIT_EXPORT KCGeometry {
   static constexpr double kOnLineTolerance = 1e-9;
 
   KCGeometry() = default;
+  /// Nothing to copy: the class holds no data.
   KCGeometry(const KCGeometry&) = default;
+  /// Nothing to assign: the class holds no data; returns *this.
   KCGeometry& operator=(const KCGeometry&) = default;
   virtual ~KCGeometry();
 

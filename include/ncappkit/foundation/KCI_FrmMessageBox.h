@@ -15,10 +15,13 @@
 #include "ncappkit/foundation/KCString.h"
 #include "ncappkit/foundation/KCStringList.h"
 
+/// A message form that the client implements and draws itself.
 class NCAPPKIT_EXPORT KCI_FrmMessageBox {
  public:
   KCI_FrmMessageBox() = default;
+  /// Nothing to copy: the class holds no data.
   KCI_FrmMessageBox(const KCI_FrmMessageBox&) = default;
+  /// Nothing to assign: the class holds no data; returns *this.
   KCI_FrmMessageBox& operator=(const KCI_FrmMessageBox&) = default;
   virtual ~KCI_FrmMessageBox();
 

@@ -14,10 +14,13 @@
 #include "ncappkit/export.h"
 #include "ncappkit/foundation/KCString.h"
 
+/// A source of message texts by section and key, implemented by the client.
 class NCAPPKIT_EXPORT KCI_MessagesFile {
  public:
   KCI_MessagesFile() = default;
+  /// Nothing to copy: the class holds no data.
   KCI_MessagesFile(const KCI_MessagesFile&) = default;
+  /// Nothing to assign: the class holds no data; returns *this.
   KCI_MessagesFile& operator=(const KCI_MessagesFile&) = default;
   virtual ~KCI_MessagesFile();
 

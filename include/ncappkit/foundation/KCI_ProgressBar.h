@@ -17,10 +17,13 @@
 #include "ncappkit/foundation/KCString.h"
 #include "ncappkit/foundation/KCStringList.h"
 
+/// A progress display implemented by the client, which can also show a message.
 class NCAPPKIT_EXPORT KCI_ProgressBar {
  public:
   KCI_ProgressBar() = default;
+  /// Nothing to copy: the class holds no data.
   KCI_ProgressBar(const KCI_ProgressBar&) = default;
+  /// Nothing to assign: the class holds no data; returns *this.
   KCI_ProgressBar& operator=(const KCI_ProgressBar&) = default;
   virtual ~KCI_ProgressBar();
 

@@ -16,11 +16,14 @@
 #include "ncappkit/foundation/KCString.h"
 #include "ncappkit/foundation/KCStringList.h"
 
+/// Reading and writing one INI file by section and key; every write replaces the file whole.
 class NCAPPKIT_EXPORT KCIniFile {
  public:
   /// Bind the file; nothing is read until the first call.
   explicit KCIniFile(const KCString& fileName);
+  /// Binds the same file name (nothing is cached, so both objects see the same file).
   KCIniFile(const KCIniFile&) = default;
+  /// Bind the other object's file name; returns *this.
   KCIniFile& operator=(const KCIniFile&) = default;
   virtual ~KCIniFile();
 

@@ -6,6 +6,7 @@
 
 #include "ncappkit/export.h"
 
+/// Small numeric helpers, and the one definition of pi in the library.
 class NCAPPKIT_EXPORT KCMath {
  public:
   /// True when |a - b| <= tolerance (a difference equal to the tolerance counts as equal). NaN is never

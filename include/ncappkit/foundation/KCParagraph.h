@@ -25,6 +25,7 @@
 #include "ncappkit/foundation/KCPenStyle.h"
 #include "ncappkit/foundation/KCString.h"
 
+/// A named section of key/value texts with child sections, written as an XML element by KCDocument.
 class NCAPPKIT_EXPORT KCParagraph {
  public:
   /// One key with its value text.
@@ -110,6 +111,7 @@ class NCAPPKIT_EXPORT KCParagraph {
   KCString m_docText;
 };
 
+/// The owner of a KCParagraph tree, which it writes as XML.
 class NCAPPKIT_EXPORT KCDocument {
  public:
   /// A document without a root section.

@@ -7,6 +7,7 @@
 
 #include "ncappkit/export.h"
 
+/// How a pen combines with what is already drawn: plain copy or NOT-XOR.
 class NCAPPKIT_EXPORT KCPenMode {
  public:
   /// The combination modes.
@@ -16,14 +17,18 @@ class NCAPPKIT_EXPORT KCPenMode {
   KCPenMode() = default;
   /// The given mode.
   explicit KCPenMode(Kind kind) : m_kind(kind) {}
+  /// The same mode.
   KCPenMode(const KCPenMode&) = default;
+  /// Take the other's mode; returns *this.
   KCPenMode& operator=(const KCPenMode&) = default;
   virtual ~KCPenMode();
 
   /// The mode.
   Kind GetKind() const noexcept { return m_kind; }
 
+  /// True when both have the same mode.
   friend bool operator==(const KCPenMode& a, const KCPenMode& b) noexcept { return a.m_kind == b.m_kind; }
+  /// True when the modes differ.
   friend bool operator!=(const KCPenMode& a, const KCPenMode& b) noexcept { return a.m_kind != b.m_kind; }
 
  private:

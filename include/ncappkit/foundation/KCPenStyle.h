@@ -12,6 +12,7 @@
 #include "ncappkit/export.h"
 #include "ncappkit/foundation/KCString.h"
 
+/// The dash pattern of a pen (solid, dash, dot, dash-dot, dash-dot-dot), a small copyable value.
 class NCAPPKIT_EXPORT KCPenStyle {
  public:
   /// The dash patterns a pen can have.
@@ -21,7 +22,9 @@ class NCAPPKIT_EXPORT KCPenStyle {
   KCPenStyle() = default;
   /// A pen of the given kind.
   explicit KCPenStyle(Kind kind) : m_kind(kind) {}
+  /// The same dash pattern.
   KCPenStyle(const KCPenStyle&) = default;
+  /// Take the other's dash pattern; returns *this.
   KCPenStyle& operator=(const KCPenStyle&) = default;
   virtual ~KCPenStyle();
 
@@ -33,7 +36,9 @@ class NCAPPKIT_EXPORT KCPenStyle {
   /// Style named by `text` (case-insensitive, blanks around ignored); an unknown text gives a solid pen.
   static KCPenStyle FromString(const KCString& text);
 
+  /// True when both have the same dash pattern.
   friend bool operator==(const KCPenStyle& a, const KCPenStyle& b) noexcept { return a.m_kind == b.m_kind; }
+  /// True when the dash patterns differ.
   friend bool operator!=(const KCPenStyle& a, const KCPenStyle& b) noexcept { return a.m_kind != b.m_kind; }
 
  private:

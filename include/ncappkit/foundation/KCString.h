@@ -20,6 +20,7 @@
 
 #include "ncappkit/export.h"
 
+/// The library's 8-bit character string with value semantics; indices outside the string read as '\0'.
 class NCAPPKIT_EXPORT KCString {
  public:
   /// Position that stands for "no match" (all bits set).
@@ -47,9 +48,13 @@ class NCAPPKIT_EXPORT KCString {
   /// an exponent). `forceSign` as for the integer constructor. NaN gives "nan", infinities "inf" and "-inf".
   KCString(double value, int digits, bool forceSign);
 
+  /// A copy of the same text.
   KCString(const KCString&) = default;
+  /// Takes over the text; the moved-from string is left valid but unspecified.
   KCString(KCString&&) noexcept = default;
+  /// Copy the other text; returns *this.
   KCString& operator=(const KCString&) = default;
+  /// Take over the other text; returns *this.
   KCString& operator=(KCString&&) noexcept = default;
   virtual ~KCString();
 
@@ -154,11 +159,15 @@ class NCAPPKIT_EXPORT KCString {
   /// other.
   KCString operator&(const KCString& fileName) const;
 
-  /// Case-sensitive comparisons.
+  /// True when both texts are equal byte for byte (case-sensitive).
   friend bool operator==(const KCString& a, const KCString& b) noexcept { return a.m_text == b.m_text; }
+  /// True when the texts differ in any byte (case-sensitive).
   friend bool operator!=(const KCString& a, const KCString& b) noexcept { return a.m_text != b.m_text; }
+  /// Byte-wise lexicographic order, as std::string compares (for sorting and ordered containers).
   friend bool operator<(const KCString& a, const KCString& b) noexcept { return a.m_text < b.m_text; }
+  /// True when the text equals the NUL-terminated `b`; a null `b` counts as "".
   friend bool operator==(const KCString& a, const char* b) noexcept { return a.m_text == (b ? b : ""); }
+  /// Negation of the comparison with a NUL-terminated text.
   friend bool operator!=(const KCString& a, const char* b) noexcept { return !(a == b); }
 
  private:

@@ -18,23 +18,35 @@
 #include "ncappkit/export.h"
 #include "ncappkit/foundation/KCString.h"
 
+/// An ordered list of KCString with value semantics (an NC program holds its lines in one).
 class NCAPPKIT_EXPORT KCStringList {
  public:
+  /// Type of the entries.
   using value_type = KCString;
+  /// The standard container that holds the entries.
   using container_type = std::vector<KCString>;
+  /// Writable iterator over the entries.
   using iterator = container_type::iterator;
+  /// Read-only iterator over the entries.
   using const_iterator = container_type::const_iterator;
+  /// Writable iterator from the last entry to the first.
   using reverse_iterator = container_type::reverse_iterator;
+  /// Read-only iterator from the last entry to the first.
   using const_reverse_iterator = container_type::const_reverse_iterator;
+  /// Type of sizes and indices.
   using size_type = std::size_t;
 
   /// Empty list.
   KCStringList() = default;
   /// List of the given strings, in order.
   KCStringList(std::initializer_list<KCString> items) : m_items(items) {}
+  /// A copy with the same strings in the same order.
   KCStringList(const KCStringList&) = default;
+  /// Takes over the strings; the moved-from list is left valid but unspecified.
   KCStringList(KCStringList&&) noexcept = default;
+  /// Copy the other list's strings; returns *this.
   KCStringList& operator=(const KCStringList&) = default;
+  /// Take over the other list's strings; returns *this.
   KCStringList& operator=(KCStringList&&) noexcept = default;
   virtual ~KCStringList();
 
@@ -80,19 +92,30 @@ class NCAPPKIT_EXPORT KCStringList {
   /// The string at `index`; the index must be below size().
   const KCString& operator[](size_type index) const { return m_items[index]; }
 
+  /// Iterator to the first string (end() for an empty list).
   iterator begin() noexcept { return m_items.begin(); }
+  /// Iterator past the last string.
   iterator end() noexcept { return m_items.end(); }
+  /// Read-only iterator to the first string.
   const_iterator begin() const noexcept { return m_items.begin(); }
+  /// Read-only iterator past the last string.
   const_iterator end() const noexcept { return m_items.end(); }
+  /// Read-only iterator to the first string.
   const_iterator cbegin() const noexcept { return m_items.cbegin(); }
+  /// Read-only iterator past the last string.
   const_iterator cend() const noexcept { return m_items.cend(); }
+  /// Reverse iterator to the last string.
   reverse_iterator rbegin() noexcept { return m_items.rbegin(); }
+  /// Reverse iterator before the first string.
   reverse_iterator rend() noexcept { return m_items.rend(); }
+  /// Read-only reverse iterator to the last string.
   const_reverse_iterator rbegin() const noexcept { return m_items.rbegin(); }
+  /// Read-only reverse iterator before the first string.
   const_reverse_iterator rend() const noexcept { return m_items.rend(); }
 
   /// Element-wise, case-sensitive equality.
   friend bool operator==(const KCStringList& a, const KCStringList& b) { return a.m_items == b.m_items; }
+  /// Negation of ==.
   friend bool operator!=(const KCStringList& a, const KCStringList& b) { return !(a == b); }
 
  private:

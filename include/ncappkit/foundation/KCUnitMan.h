@@ -8,6 +8,7 @@
 
 #include "ncappkit/export.h"
 
+/// Holder of the class library's unit enumerations.
 class NCAPPKIT_EXPORT KCUnitMan {
  public:
   /// Distance units.

@@ -9,13 +9,16 @@
 
 #include "ncappkit/export.h"
 
+/// A point in space with double coordinates.
 class NCAPPKIT_EXPORT KC3DPoint {
  public:
   /// The origin (0, 0, 0).
   KC3DPoint() = default;
   /// The point (x, y, z).
   KC3DPoint(double x, double y, double z) noexcept : m_x(x), m_y(y), m_z(z) {}
+  /// The same three coordinates.
   KC3DPoint(const KC3DPoint&) = default;
+  /// Take the other point's coordinates; returns *this.
   KC3DPoint& operator=(const KC3DPoint&) = default;
   virtual ~KC3DPoint();
 
@@ -45,6 +48,7 @@ class NCAPPKIT_EXPORT KC3DPoint {
   double m_z = 0.0;
 };
 
+/// The displacement between two points in space.
 class NCAPPKIT_EXPORT KCVector {
  public:
   /// The zero vector.
@@ -54,7 +58,9 @@ class NCAPPKIT_EXPORT KCVector {
       : m_x(to.GetX() - from.GetX()), m_y(to.GetY() - from.GetY()), m_z(to.GetZ() - from.GetZ()) {}
   /// The vector with the given components.
   KCVector(double x, double y, double z) noexcept : m_x(x), m_y(y), m_z(z) {}
+  /// The same three components.
   KCVector(const KCVector&) = default;
+  /// Take the other vector's components; returns *this.
   KCVector& operator=(const KCVector&) = default;
   virtual ~KCVector();
 

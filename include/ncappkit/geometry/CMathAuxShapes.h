@@ -24,6 +24,8 @@
 #include "ncappkit/geometry/KCI_AuxLine.h"
 #include "ncappkit/geometry/KCI_AuxVerLine.h"
 
+/// Infinite construction lines and full construction circles, and the static operations that measure and
+/// intersect them.
 class NCAPPKIT_EXPORT CMathAuxShapes {
  public:
   /// The infinite line y = pos.
@@ -33,7 +35,9 @@ class NCAPPKIT_EXPORT CMathAuxShapes {
     CAuxHorLine() = default;
     /// The line y = pos.
     explicit CAuxHorLine(double pos) noexcept : m_pos(pos) {}
+    /// The same position.
     CAuxHorLine(const CAuxHorLine&) = default;
+    /// Take the other line's position; returns *this.
     CAuxHorLine& operator=(const CAuxHorLine&) = default;
     ~CAuxHorLine() override;
 
@@ -53,7 +57,9 @@ class NCAPPKIT_EXPORT CMathAuxShapes {
     CAuxVerLine() = default;
     /// The line x = pos.
     explicit CAuxVerLine(double pos) noexcept : m_pos(pos) {}
+    /// The same position.
     CAuxVerLine(const CAuxVerLine&) = default;
+    /// Take the other line's position; returns *this.
     CAuxVerLine& operator=(const CAuxVerLine&) = default;
     ~CAuxVerLine() override;
 
@@ -75,7 +81,9 @@ class NCAPPKIT_EXPORT CMathAuxShapes {
     CAuxLine() = default;
     /// Through (x, y) at angleDeg degrees.
     CAuxLine(double x, double y, double angleDeg) noexcept : m_xPos(x), m_yPos(y), m_angleDeg(angleDeg) {}
+    /// The same point and angle.
     CAuxLine(const CAuxLine&) = default;
+    /// Take the other line's point and angle; returns *this.
     CAuxLine& operator=(const CAuxLine&) = default;
     ~CAuxLine() override;
 
@@ -111,7 +119,9 @@ class NCAPPKIT_EXPORT CMathAuxShapes {
     CAuxCircle() = default;
     /// Centre (x, y) and the radius.
     CAuxCircle(double x, double y, double radius) noexcept : m_xPos(x), m_yPos(y), m_radius(radius) {}
+    /// The same centre and radius.
     CAuxCircle(const CAuxCircle&) = default;
+    /// Take the other circle's centre and radius; returns *this.
     CAuxCircle& operator=(const CAuxCircle&) = default;
     ~CAuxCircle() override;
 
@@ -143,7 +153,9 @@ class NCAPPKIT_EXPORT CMathAuxShapes {
     CAuxCircleImpl() = default;
     /// Centre (x, y) and the radius.
     CAuxCircleImpl(double x, double y, double radius) noexcept : CAuxCircle(x, y, radius) {}
+    /// The same centre and radius.
     CAuxCircleImpl(const CAuxCircleImpl&) = default;
+    /// Take the other circle's centre and radius; returns *this.
     CAuxCircleImpl& operator=(const CAuxCircleImpl&) = default;
     ~CAuxCircleImpl() override;
 
@@ -158,7 +170,9 @@ class NCAPPKIT_EXPORT CMathAuxShapes {
   };
 
   CMathAuxShapes() = default;
+  /// Nothing to copy: the class holds no data.
   CMathAuxShapes(const CMathAuxShapes&) = default;
+  /// Nothing to assign: the class holds no data; returns *this.
   CMathAuxShapes& operator=(const CMathAuxShapes&) = default;
   virtual ~CMathAuxShapes();
 
@@ -174,32 +188,44 @@ class NCAPPKIT_EXPORT CMathAuxShapes {
 
   /// |pos - p.y|, foot (p.x, pos).
   static double DistanceFromPointToAuxShape(const KCI_AuxHorLine& shape, const CMath2D::Cd2DPoint& p);
+  /// |pos - p.y|, the foot (p.x, pos) into `foot`.
   static double DistanceFromPointToAuxShape(const KCI_AuxHorLine& shape, const CMath2D::Cd2DPoint& p,
                                             CMath2D::Cd2DPoint& foot);
+  /// |pos - y|.
   static double DistanceFromPointToAuxShape(const KCI_AuxHorLine& shape, double x, double y);
+  /// |pos - y|, the foot (x, pos) into `foot`.
   static double DistanceFromPointToAuxShape(const KCI_AuxHorLine& shape, double x, double y,
                                             CMath2D::Cd2DPoint& foot);
   /// |p.x - pos|, foot (pos, p.y).
   static double DistanceFromPointToAuxShape(const KCI_AuxVerLine& shape, const CMath2D::Cd2DPoint& p);
+  /// |p.x - pos|, the foot (pos, p.y) into `foot`.
   static double DistanceFromPointToAuxShape(const KCI_AuxVerLine& shape, const CMath2D::Cd2DPoint& p,
                                             CMath2D::Cd2DPoint& foot);
+  /// |x - pos|.
   static double DistanceFromPointToAuxShape(const KCI_AuxVerLine& shape, double x, double y);
+  /// |x - pos|, the foot (pos, y) into `foot`.
   static double DistanceFromPointToAuxShape(const KCI_AuxVerLine& shape, double x, double y,
                                             CMath2D::Cd2DPoint& foot);
   /// |d - r| with d the distance from the centre, foot c + (r / d)(p - c). A point at the centre divides by
   /// zero: the distance is r and the foot NaN.
   static double DistanceFromPointToAuxShape(const KCI_AuxCircle& shape, const CMath2D::Cd2DPoint& p);
+  /// As above, the foot into `foot` (NaN for a point at the centre).
   static double DistanceFromPointToAuxShape(const KCI_AuxCircle& shape, const CMath2D::Cd2DPoint& p,
                                             CMath2D::Cd2DPoint& foot);
+  /// The distance of (x, y) from the circle, as above.
   static double DistanceFromPointToAuxShape(const KCI_AuxCircle& shape, double x, double y);
+  /// The distance of (x, y) from the circle, the foot into `foot`, as above.
   static double DistanceFromPointToAuxShape(const KCI_AuxCircle& shape, double x, double y,
                                             CMath2D::Cd2DPoint& foot);
   /// Perpendicular distance and foot; horizontal and vertical lines as above; when |tan| < 1e-7 otherwise
   /// (cannot happen for finite angles that are not horizontal) 99999999.9 with the foot untouched.
   static double DistanceFromPointToAuxShape(const KCI_AuxLine& shape, const CMath2D::Cd2DPoint& p);
+  /// As above, the foot into `foot` (untouched in the no-distance case).
   static double DistanceFromPointToAuxShape(const KCI_AuxLine& shape, const CMath2D::Cd2DPoint& p,
                                             CMath2D::Cd2DPoint& foot);
+  /// The distance of (x, y) from the line, as above.
   static double DistanceFromPointToAuxShape(const KCI_AuxLine& shape, double x, double y);
+  /// The distance of (x, y) from the line, the foot into `foot`, as above.
   static double DistanceFromPointToAuxShape(const KCI_AuxLine& shape, double x, double y,
                                             CMath2D::Cd2DPoint& foot);
 

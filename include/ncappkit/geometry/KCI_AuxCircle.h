@@ -11,10 +11,13 @@
 
 #include "ncappkit/export.h"
 
+/// Abstract access to a full construction circle: its centre and radius.
 class NCAPPKIT_EXPORT KCI_AuxCircle {
  public:
   KCI_AuxCircle() = default;
+  /// Nothing to copy: the class holds no data.
   KCI_AuxCircle(const KCI_AuxCircle&) = default;
+  /// Nothing to assign: the class holds no data; returns *this.
   KCI_AuxCircle& operator=(const KCI_AuxCircle&) = default;
   virtual ~KCI_AuxCircle();
 

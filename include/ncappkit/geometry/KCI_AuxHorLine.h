@@ -10,10 +10,13 @@
 
 #include "ncappkit/export.h"
 
+/// Abstract access to an infinite horizontal construction line y = pos.
 class NCAPPKIT_EXPORT KCI_AuxHorLine {
  public:
   KCI_AuxHorLine() = default;
+  /// Nothing to copy: the class holds no data.
   KCI_AuxHorLine(const KCI_AuxHorLine&) = default;
+  /// Nothing to assign: the class holds no data; returns *this.
   KCI_AuxHorLine& operator=(const KCI_AuxHorLine&) = default;
   virtual ~KCI_AuxHorLine();
 

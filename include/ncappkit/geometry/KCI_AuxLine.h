@@ -11,10 +11,13 @@
 
 #include "ncappkit/export.h"
 
+/// Abstract access to an infinite construction line through a point at an angle in degrees.
 class NCAPPKIT_EXPORT KCI_AuxLine {
  public:
   KCI_AuxLine() = default;
+  /// Nothing to copy: the class holds no data.
   KCI_AuxLine(const KCI_AuxLine&) = default;
+  /// Nothing to assign: the class holds no data; returns *this.
   KCI_AuxLine& operator=(const KCI_AuxLine&) = default;
   virtual ~KCI_AuxLine();
 

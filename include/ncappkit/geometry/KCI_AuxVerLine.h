@@ -10,10 +10,13 @@
 
 #include "ncappkit/export.h"
 
+/// Abstract access to an infinite vertical construction line x = pos.
 class NCAPPKIT_EXPORT KCI_AuxVerLine {
  public:
   KCI_AuxVerLine() = default;
+  /// Nothing to copy: the class holds no data.
   KCI_AuxVerLine(const KCI_AuxVerLine&) = default;
+  /// Nothing to assign: the class holds no data; returns *this.
   KCI_AuxVerLine& operator=(const KCI_AuxVerLine&) = default;
   virtual ~KCI_AuxVerLine();
 

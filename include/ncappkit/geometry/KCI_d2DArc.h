@@ -12,6 +12,7 @@
 
 #include "ncappkit/export.h"
 
+/// Abstract access to a circular arc with double coordinates: start, end, centre and turning sense.
 class NCAPPKIT_EXPORT KCI_d2DArc {
  public:
   /// Turning sense of an arc.
@@ -22,7 +23,9 @@ class NCAPPKIT_EXPORT KCI_d2DArc {
   };
 
   KCI_d2DArc() = default;
+  /// Nothing to copy: the class holds no data.
   KCI_d2DArc(const KCI_d2DArc&) = default;
+  /// Nothing to assign: the class holds no data; returns *this.
   KCI_d2DArc& operator=(const KCI_d2DArc&) = default;
   virtual ~KCI_d2DArc();
 

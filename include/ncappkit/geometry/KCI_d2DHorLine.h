@@ -11,10 +11,13 @@
 
 #include "ncappkit/export.h"
 
+/// Abstract access to a horizontal line segment: its y position and the x of its two ends.
 class NCAPPKIT_EXPORT KCI_d2DHorLine {
  public:
   KCI_d2DHorLine() = default;
+  /// Nothing to copy: the class holds no data.
   KCI_d2DHorLine(const KCI_d2DHorLine&) = default;
+  /// Nothing to assign: the class holds no data; returns *this.
   KCI_d2DHorLine& operator=(const KCI_d2DHorLine&) = default;
   virtual ~KCI_d2DHorLine();
 

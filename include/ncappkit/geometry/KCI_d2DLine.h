@@ -11,10 +11,13 @@
 
 #include "ncappkit/export.h"
 
+/// Abstract access to a line segment with double coordinates.
 class NCAPPKIT_EXPORT KCI_d2DLine {
  public:
   KCI_d2DLine() = default;
+  /// Nothing to copy: the class holds no data.
   KCI_d2DLine(const KCI_d2DLine&) = default;
+  /// Nothing to assign: the class holds no data; returns *this.
   KCI_d2DLine& operator=(const KCI_d2DLine&) = default;
   virtual ~KCI_d2DLine();
 

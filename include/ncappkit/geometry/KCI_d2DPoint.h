@@ -11,10 +11,13 @@
 
 #include "ncappkit/export.h"
 
+/// Abstract access to a 2D point with double coordinates.
 class NCAPPKIT_EXPORT KCI_d2DPoint {
  public:
   KCI_d2DPoint() = default;
+  /// Nothing to copy: the class holds no data.
   KCI_d2DPoint(const KCI_d2DPoint&) = default;
+  /// Nothing to assign: the class holds no data; returns *this.
   KCI_d2DPoint& operator=(const KCI_d2DPoint&) = default;
   virtual ~KCI_d2DPoint();
 

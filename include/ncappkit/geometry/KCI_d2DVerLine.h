@@ -11,10 +11,13 @@
 
 #include "ncappkit/export.h"
 
+/// Abstract access to a vertical line segment: its x position and the y of its two ends.
 class NCAPPKIT_EXPORT KCI_d2DVerLine {
  public:
   KCI_d2DVerLine() = default;
+  /// Nothing to copy: the class holds no data.
   KCI_d2DVerLine(const KCI_d2DVerLine&) = default;
+  /// Nothing to assign: the class holds no data; returns *this.
   KCI_d2DVerLine& operator=(const KCI_d2DVerLine&) = default;
   virtual ~KCI_d2DVerLine();
 

@@ -12,6 +12,7 @@
 
 #include "ncappkit/export.h"
 
+/// Abstract access to a circular arc with int coordinates: start, end, centre and turning sense.
 class NCAPPKIT_EXPORT KCI_i2DArc {
  public:
   /// Turning sense of an arc.
@@ -22,7 +23,9 @@ class NCAPPKIT_EXPORT KCI_i2DArc {
   };
 
   KCI_i2DArc() = default;
+  /// Nothing to copy: the class holds no data.
   KCI_i2DArc(const KCI_i2DArc&) = default;
+  /// Nothing to assign: the class holds no data; returns *this.
   KCI_i2DArc& operator=(const KCI_i2DArc&) = default;
   virtual ~KCI_i2DArc();
 

@@ -11,10 +11,13 @@
 
 #include "ncappkit/export.h"
 
+/// Abstract access to a line segment with int coordinates.
 class NCAPPKIT_EXPORT KCI_i2DLine {
  public:
   KCI_i2DLine() = default;
+  /// Nothing to copy: the class holds no data.
   KCI_i2DLine(const KCI_i2DLine&) = default;
+  /// Nothing to assign: the class holds no data; returns *this.
   KCI_i2DLine& operator=(const KCI_i2DLine&) = default;
   virtual ~KCI_i2DLine();
 

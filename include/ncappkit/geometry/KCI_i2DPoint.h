@@ -11,10 +11,13 @@
 
 #include "ncappkit/export.h"
 
+/// Abstract access to a 2D point with int coordinates.
 class NCAPPKIT_EXPORT KCI_i2DPoint {
  public:
   KCI_i2DPoint() = default;
+  /// Nothing to copy: the class holds no data.
   KCI_i2DPoint(const KCI_i2DPoint&) = default;
+  /// Nothing to assign: the class holds no data; returns *this.
   KCI_i2DPoint& operator=(const KCI_i2DPoint&) = default;
   virtual ~KCI_i2DPoint();
 

@@ -16,6 +16,7 @@
 #include "ncappkit/export.h"
 #include "ncappkit/foundation/KCString.h"
 
+/// The application's display name, built from its executable's base name and version.
 class NCAPPKIT_EXPORT KCC_AppName {
  public:
   /// Longest display name.

@@ -25,11 +25,15 @@
 #include "ncappkit/foundation/KCString.h"
 #include "ncappkit/units/KCC_MmInch.h"
 
+/// The application's basic settings (language, units, directories, editor, write-enable probe) in one
+/// section.
 class NCAPPKIT_EXPORT KCC_CfgApplication {
  public:
   /// English, mm, empty directories and editor, not write-enabled.
   KCC_CfgApplication();
+  /// A copy of every setting, the probe result included.
   KCC_CfgApplication(const KCC_CfgApplication&) = default;
+  /// Take every setting of the other object; returns *this.
   KCC_CfgApplication& operator=(const KCC_CfgApplication&) = default;
   virtual ~KCC_CfgApplication();
 

@@ -14,6 +14,7 @@
 #include "ncappkit/config/KCC_CfgObject.h"
 #include "ncappkit/export.h"
 
+/// A scope guard for a configuration object that deletes it at the end of the scope when it owns it.
 class NCAPPKIT_EXPORT KCC_CfgInitSection {
  public:
   /// Guard `cfg`; when `owns` is true it must come from new, and the guard deletes it.

@@ -21,7 +21,9 @@ class NCAPPKIT_EXPORT KCC_CfgObject {
  public:
   /// Access to `section`.
   explicit KCC_CfgObject(const KCString& section) : m_section(section) {}
+  /// Access to the same section name.
   KCC_CfgObject(const KCC_CfgObject&) = default;
+  /// Take the other object's section name; returns *this.
   KCC_CfgObject& operator=(const KCC_CfgObject&) = default;
   virtual ~KCC_CfgObject();
 
@@ -55,6 +57,7 @@ class NCAPPKIT_EXPORT KCC_CfgObject {
   const KCString& GetSection() const noexcept { return m_section; }
 
  protected:
+  /// The section name given at construction.
   KCString m_section;
 };
 
@@ -64,7 +67,9 @@ class NCAPPKIT_EXPORT KCC_CfgObjectIniFile : public KCC_CfgObject {
   /// Access to `section` of the INI file `fileName` (nothing is read yet; a missing file reads as empty and
   /// is created by the first write).
   KCC_CfgObjectIniFile(const KCString& fileName, const KCString& section);
+  /// Access to the same section of the same INI file.
   KCC_CfgObjectIniFile(const KCC_CfgObjectIniFile&) = default;
+  /// Take the other object's file and section; returns *this.
   KCC_CfgObjectIniFile& operator=(const KCC_CfgObjectIniFile&) = default;
   ~KCC_CfgObjectIniFile() override;
 

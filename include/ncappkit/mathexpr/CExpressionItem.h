@@ -53,6 +53,7 @@ class NCAPPKIT_EXPORT CExpressionItem {
 
   /// An undefined item: value 0.0, operator blank, no function.
   CExpressionItem() = default;
+  /// A copy of all four fields (type, value, operator character, function).
   CExpressionItem(const CExpressionItem&) = default;
   /// Copy all four fields.
   CExpressionItem& operator=(const CExpressionItem&) = default;
@@ -120,10 +121,15 @@ class NCAPPKIT_EXPORT CExpressionItem {
 /// An ordered, doubly linked list of items.
 class NCAPPKIT_EXPORT CExpressionItemList {
  public:
+  /// The standard container that holds the items.
   using container_type = std::list<CExpressionItem>;
+  /// Writable iterator over the items.
   using iterator = container_type::iterator;
+  /// Read-only iterator over the items.
   using const_iterator = container_type::const_iterator;
+  /// Type of sizes.
   using size_type = container_type::size_type;
+  /// Type of the items.
   using value_type = CExpressionItem;
 
   /// Most items a list holds.
@@ -131,6 +137,7 @@ class NCAPPKIT_EXPORT CExpressionItemList {
 
   /// Empty list.
   CExpressionItemList() = default;
+  /// A copy of all items in the same order.
   CExpressionItemList(const CExpressionItemList&) = default;
   /// Copy all items.
   CExpressionItemList& operator=(const CExpressionItemList&) = default;
@@ -151,17 +158,25 @@ class NCAPPKIT_EXPORT CExpressionItemList {
   /// Remove every item.
   void clear() noexcept { m_items.clear(); }
 
+  /// Iterator to the first item (end() for an empty list).
   iterator begin() noexcept { return m_items.begin(); }
+  /// Iterator past the last item.
   iterator end() noexcept { return m_items.end(); }
+  /// Read-only iterator to the first item.
   const_iterator begin() const noexcept { return m_items.begin(); }
+  /// Read-only iterator past the last item.
   const_iterator end() const noexcept { return m_items.end(); }
+  /// Read-only iterator to the first item.
   const_iterator cbegin() const noexcept { return m_items.cbegin(); }
+  /// Read-only iterator past the last item.
   const_iterator cend() const noexcept { return m_items.cend(); }
   /// The first item; the list must not be empty.
   CExpressionItem& front() { return m_items.front(); }
+  /// The first item, read-only; the list must not be empty.
   const CExpressionItem& front() const { return m_items.front(); }
   /// The last item; the list must not be empty.
   CExpressionItem& back() { return m_items.back(); }
+  /// The last item, read-only; the list must not be empty.
   const CExpressionItem& back() const { return m_items.back(); }
 
   /// Append `item`; throws std::length_error("list too long") when the list is full.
@@ -178,6 +193,7 @@ class NCAPPKIT_EXPORT CExpressionItemList {
 
   /// True when both lists hold equal items in the same order.
   bool operator==(const CExpressionItemList& other) const noexcept { return m_items == other.m_items; }
+  /// Negation of ==.
   bool operator!=(const CExpressionItemList& other) const noexcept { return !(*this == other); }
 
  private:

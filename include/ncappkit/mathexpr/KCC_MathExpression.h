@@ -37,6 +37,7 @@
 #include "ncappkit/foundation/KCString.h"
 #include "ncappkit/mathexpr/CExpressionItem.h"
 
+/// Evaluator of arithmetic typed into a numeric field; every step and fault goes to a reporter.
 class NCAPPKIT_EXPORT KCC_MathExpression {
  public:
   /// An empty expression that reports to `reporter` (not owned; must outlive this object).

@@ -21,6 +21,7 @@
 #include "ncappkit/export.h"
 #include "ncappkit/foundation/KCString.h"
 
+/// Abstract adjustable value bound to one line of NC program text, which UpdateNcLine rewrites.
 class NCAPPKIT_EXPORT CNcParameter {
  public:
   /// No line bound.

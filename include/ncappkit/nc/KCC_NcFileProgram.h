@@ -19,6 +19,7 @@
 
 class KCC_NcFileProgramVisitor;
 
+/// One program of an NC file: number, reference text, lines, size and download action.
 class NCAPPKIT_EXPORT KCC_NcFileProgram {
  public:
   /// Program number -1, no reference text, size 0, no lines, no download action.

@@ -12,6 +12,7 @@
 class KCC_NcFileProgram;
 class KCC_NcFileProgramList;
 
+/// Makes new, empty NC programs at the end of one program list.
 class NCAPPKIT_EXPORT KCC_NcFileProgramCreator {
  public:
   /// A creator that appends to `target`; the list must outlive the creator.

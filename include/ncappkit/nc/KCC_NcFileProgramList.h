@@ -21,6 +21,7 @@
 class KCC_NcFileProgram;
 class KCC_NcFileProgramVisitor;
 
+/// An owning list of NC programs; a copy shares the programs (see the ownership note).
 class NCAPPKIT_EXPORT KCC_NcFileProgramList {
  public:
   /// Empty list; the cursor is at the end until GetFirstProg is called.

@@ -14,10 +14,13 @@
 
 class KCC_NcFileProgram;
 
+/// Visitor over the programs of an NC file.
 class NCAPPKIT_EXPORT KCC_NcFileProgramVisitor {
  public:
   KCC_NcFileProgramVisitor() = default;
+  /// Nothing to copy: the class holds no data.
   KCC_NcFileProgramVisitor(const KCC_NcFileProgramVisitor&) = default;
+  /// Nothing to assign: the class holds no data; returns *this.
   KCC_NcFileProgramVisitor& operator=(const KCC_NcFileProgramVisitor&) = default;
   virtual ~KCC_NcFileProgramVisitor();
 

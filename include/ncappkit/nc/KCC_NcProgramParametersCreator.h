@@ -15,6 +15,7 @@
 #include "ncappkit/foundation/KCI_MessagesFile.h"
 #include "ncappkit/foundation/KCString.h"
 
+/// Builds new NC lines (parameter assignments, ISO commands) and fetches message texts.
 class NCAPPKIT_EXPORT KCC_NcProgramParametersCreator {
  public:
   /// A creator that reads message texts from `messagesFile`, which must outlive it.

@@ -26,6 +26,7 @@
 #include "ncappkit/export.h"
 #include "ncappkit/foundation/KCString.h"
 
+/// Decodes single blocks of an ISO/Fanuc-style NC program into address words.
 class NCAPPKIT_EXPORT KCC_ParseNc {
  public:
   /// All address slots cleared (not present, 0, 0.0).

@@ -56,6 +56,7 @@ class NCAPPKIT_EXPORT KCC_MmInch {
   KCC_MmInch(eMmInchSel sel);  // NOLINT(google-explicit-constructor): a selection is a unit value
   /// The selection for a class-library distance unit (see SetMode); undefined for an unknown unit.
   explicit KCC_MmInch(KCUnitMan::tevDistUnit unit);
+  /// The same selection.
   KCC_MmInch(const KCC_MmInch&) = default;
   /// Copy the selection.
   KCC_MmInch& operator=(const KCC_MmInch&) = default;
@@ -117,6 +118,7 @@ class NCAPPKIT_EXPORT KCC_MmInch_Rounding {
  public:
   /// Round in the unit of `unit`, read anew at every call; `unit` must outlive this object.
   explicit KCC_MmInch_Rounding(const KCC_MmInch& unit) noexcept : m_unit(unit) {}
+  /// Refers to the same selection object.
   KCC_MmInch_Rounding(const KCC_MmInch_Rounding&) = default;
   /// Keeps this object's own selection: a reference cannot be re-seated and there is nothing else to copy.
   KCC_MmInch_Rounding& operator=(const KCC_MmInch_Rounding&) noexcept { return *this; }
@@ -156,6 +158,7 @@ class NCAPPKIT_EXPORT KCC_MmInch_Format {
  public:
   /// Format in the unit of `unit`, read anew at every call; `unit` must outlive this object.
   explicit KCC_MmInch_Format(const KCC_MmInch& unit) noexcept : m_unit(unit) {}
+  /// Refers to the same selection object.
   KCC_MmInch_Format(const KCC_MmInch_Format&) = default;
   /// Keeps this object's own selection: a reference cannot be re-seated and there is nothing else to copy.
   KCC_MmInch_Format& operator=(const KCC_MmInch_Format&) noexcept { return *this; }

@@ -3,6 +3,7 @@
 #include "ncappkit/nc/KCC_NcFile.h"
 
 #include "foundation/KCCharClass.h"
+#include "nc/NcTextScan.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -30,8 +31,10 @@ constexpr int kLineBudget = KCC_NcFile::kMaxLines + 1;
 // The file reader's line buffer holds kMaxLineLength characters and the terminating NUL.
 constexpr std::size_t kMaxLineLength = static_cast<std::size_t>(KCC_NcFile::kMaxLineLength);
 
+using ncappkit_detail::EndCodeScan;
 using ncappkit_detail::IsBlank;
 using ncappkit_detail::IsDigit;
+using ncappkit_detail::ScanEndCode;
 
 // Length of the text as a C string would see it (up to the first NUL).
 inline std::size_t CLength(const char* p, std::size_t n) {
@@ -73,30 +76,18 @@ bool ParseNumberLine(const char* p, std::size_t n, int& number, std::size_t& ref
   return true;
 }
 
-// First-block test on a C-string text of length n: -1 none, else the structure it marks.
+// First-block test on a C-string text of length n: -1 none, else the structure it marks. M98 and P8010 are
+// looked for outside round brackets at positions that leave room for five characters (i + 5 <= n).
 int FirstBlockKind(const char* p, std::size_t n) {
   if (n < 8)
     return -1;
-  bool foundM98 = false;
-  bool foundP8010 = false;
-  bool inComment = false;
-  for (std::size_t i = 0; i + 5 <= n; ++i) {
-    const char c = p[i];
-    if (c == '(') {
-      inComment = true;
-      continue;
-    }
-    if (c == ')')
-      inComment = false;
-    if (inComment)
-      continue;
-    if (!foundM98 && std::memcmp(p + i, "M98", 3) == 0)
-      foundM98 = true;
-    if (!foundP8010 && std::memcmp(p + i, "P8010", 5) == 0)
-      foundP8010 = true;
-    if (foundM98 && foundP8010)
-      return kFanucStructure;
-  }
+  const std::size_t limit = n - 4;
+  auto holds = [&](const char* code, std::size_t length) {
+    return ncappkit_detail::ForEachOutsideComments(
+        p, n, limit, code[0], [&](std::size_t k) { return std::memcmp(p + k, code, length) == 0; });
+  };
+  if (holds("M98", 3) && holds("P8010", 5))
+    return kFanucStructure;
   if (n < 14)
     return -1;
   if (std::memcmp(p, "N50FIRST_BLOCK", 14) == 0)
@@ -106,31 +97,21 @@ int FirstBlockKind(const char* p, std::size_t n) {
   return -1;
 }
 
-// End-of-program test on a C-string text of length n.
+// The codes that end a program in a file: M30, M99 and RET at the start of a line.
+constexpr unsigned kFileEndCodes =
+    ncappkit_detail::kEndM30 | ncappkit_detail::kEndM99 | ncappkit_detail::kEndRET;
+
+// End-of-program test on a C-string text of length n. The flags tell which code ended the scan; when none
+// did they describe the last position compared (all false, but RET found there, after the line start),
+// and stay as they were when no position was compared.
 bool EndCommand(const char* p, std::size_t n, bool& isM30, bool& isM99, bool& isRET) {
-  if (n < 3)
-    return false;
-  const std::size_t last = n - 3;
-  bool inComment = false;
-  for (std::size_t i = 0; i <= last; ++i) {
-    const char c = p[i];
-    if (c == '(') {
-      inComment = true;
-      continue;
-    }
-    if (c == ')')
-      inComment = false;
-    if (inComment)
-      continue;
-    isM99 = c == 'M' && p[i + 1] == '9' && p[i + 2] == '9';
-    isM30 = c == 'M' && p[i + 1] == '3' && p[i + 2] == '0';
-    isRET = c == 'R' && p[i + 1] == 'E' && p[i + 2] == 'T';
-    if ((isM99 || isM30) && (i == last || !IsDigit(p[i + 3])))
-      return true;
-    if (isRET && i == 0)
-      return true;
+  const EndCodeScan scan = ScanEndCode(p, n, kFileEndCodes);
+  if (scan.compared) {
+    isM30 = scan.code == ncappkit_detail::kEndM30;
+    isM99 = scan.code == ncappkit_detail::kEndM99;
+    isRET = scan.code == ncappkit_detail::kEndRET || scan.retAtLast;
   }
-  return false;
+  return scan.code != ncappkit_detail::kEndNone;
 }
 
 // Reads a file through a large block buffer and hands out its lines as a reader with a 128-character line
@@ -138,13 +119,17 @@ bool EndCommand(const char* p, std::size_t n, bool& isM30, bool& isM99, bool& is
 // than 127 characters gives its first 127 characters and puts the reader into a failed state, after which
 // every read gives an empty line and the end is never reached. The line handed out ends at its first NUL.
 // Without the line limit the buffer grows to hold a line of any length and the reader never fails.
+//
+// A line handed out points into the buffer and stays valid until the buffer is refilled; Next calls
+// `beforeRefill()` first, so that the caller can copy what it still holds.
 class BufferedLineReader {
  public:
   BufferedLineReader(std::FILE* file, bool lineLimit)
       : m_file(file), m_lineLimit(lineLimit), m_buffer(kBlockSize) {}
 
   // The next line in [p, p + n); false at the end of the file.
-  bool Next(const char*& p, std::size_t& n) {
+  template <class BeforeRefill>
+  bool Next(const char*& p, std::size_t& n, BeforeRefill&& beforeRefill) {
     if (m_failed) {
       p = m_buffer.data();
       n = 0;
@@ -175,6 +160,7 @@ class BufferedLineReader {
         // No line end within reach: this line is too long whatever follows.
         return Hand(begin, available, p, n);
       }
+      beforeRefill();
       Refill();
     }
   }
@@ -191,8 +177,19 @@ class BufferedLineReader {
       length = kMaxLineLength;
     }
     p = begin;
-    n = CLength(begin, length);
+    // Most blocks hold no NUL at all: the line is only searched for one when the block's next NUL lies
+    // within it.
+    const std::size_t offset = static_cast<std::size_t>(begin - m_buffer.data());
+    if (m_nextNul < offset)
+      FindNextNul(offset);
+    n = m_nextNul < offset + length ? m_nextNul - offset : length;
     return true;
+  }
+
+  void FindNextNul(std::size_t from) {
+    const void* nul = std::memchr(m_buffer.data() + from, '\0', m_end - from);
+    m_nextNul =
+        nul == nullptr ? m_end : static_cast<std::size_t>(static_cast<const char*>(nul) - m_buffer.data());
   }
 
   // Moves the unread rest to the front and reads more behind it; a buffer that the rest fills completely
@@ -209,6 +206,7 @@ class BufferedLineReader {
     m_end += got;
     if (got == 0)
       m_atEof = true;  // end of file or read error: either way nothing more comes
+    FindNextNul(0);
   }
 
   std::FILE* m_file;
@@ -217,6 +215,7 @@ class BufferedLineReader {
   std::size_t m_pos = 0;
   std::size_t m_end = 0;
   std::size_t m_scanned = 0;  // bytes after m_pos already known to hold no LF
+  std::size_t m_nextNul = 0;  // offset of the first NUL at or after the last line handed out; m_end if none
   int m_lineNumber = 0;
   bool m_atEof = false;
   bool m_failed = false;
@@ -245,7 +244,9 @@ class KCC_NcFile::Loader {
   }
 
   // Process one line; false when the line budget ran out (the line was not processed and reading must stop).
-  bool Line(const char* p, std::size_t n) {
+  // The line's text must stay valid until Flush (file lines: until the reader refills its buffer).
+  // `mayHoldNul`: the text may hold a NUL, at which the scans stop (the stored line keeps all of it).
+  bool Line(const char* p, std::size_t n, bool mayHoldNul) {
     if (--m_budget < 1) {
       m_budgetRanOut = true;
       return false;
@@ -275,10 +276,16 @@ class KCC_NcFile::Loader {
         m_current->SetProgramRef(KCString(p + refBegin, refLength));
     }
 
-    if (n == 0 || p[0] != '%')
-      m_current->GetStringList().emplace_back(p, n);
+    if (n == 0 || p[0] != '%') {
+      // Two plain stores: a push_back of the pair went through the stack and stalled on it.
+      Span& span = m_lines[m_lineCount++];
+      span.p = p;
+      span.n = n;
+      if (m_lineCount == kMaxPendingLines)
+        Flush();
+    }
 
-    const std::size_t cLength = CLength(p, n);
+    const std::size_t cLength = mayHoldNul ? CLength(p, n) : n;
     if (m_checkFirstBlock && !m_firstBlockFound) {
       const int kind = FirstBlockKind(p, cLength);
       if (kind >= 0) {
@@ -287,12 +294,10 @@ class KCC_NcFile::Loader {
       }
     }
 
-    bool isM30 = false;
-    bool isM99 = false;
-    bool isRET = false;
-    if (!EndCommand(p, cLength, isM30, isM99, isRET))
+    const EndCodeScan scan = ScanEndCode(p, cLength, kFileEndCodes);
+    if (scan.code == ncappkit_detail::kEndNone)
       return true;
-    if (isM30 || (m_checkFirstBlock && m_firstBlockFound)) {
+    if (scan.code == ncappkit_detail::kEndM30 || (m_checkFirstBlock && m_firstBlockFound)) {
       Store(m_file.m_mainPrograms);
       StartNewProgram();
     } else {
@@ -301,10 +306,23 @@ class KCC_NcFile::Loader {
     return true;
   }
 
+  // Copies the lines gathered since the last flush into the current program, whose list grows once, by
+  // exactly their number (so a program's list mostly holds no spare room).
+  void Flush() {
+    if (m_lineCount == 0)
+      return;
+    KCStringList& list = m_current->GetStringList();
+    list.reserve(list.size() + m_lineCount);
+    for (std::size_t i = 0; i < m_lineCount; ++i)
+      list.emplace_back(std::string(m_lines[i].p, m_lines[i].n));
+    m_lineCount = 0;
+  }
+
   KCC_NcFileProgram* Finish() {
     if (m_pendingSub || m_keepUnfinished) {
       Store(m_file.m_subPrograms);
     } else {
+      m_lineCount = 0;
       m_current.reset();
     }
     if (m_budgetRanOut) {
@@ -322,6 +340,7 @@ class KCC_NcFile::Loader {
 
  private:
   void Store(KCC_NcFileProgramList& list) {
+    Flush();
     m_lastStored = m_current.release();
     list.AddProgram(m_lastStored);
   }
@@ -333,6 +352,14 @@ class KCC_NcFile::Loader {
     m_firstBlockFound = false;
   }
 
+  // A line of the current program not yet copied into its list.
+  struct Span {
+    const char* p;
+    std::size_t n;
+  };
+  // Lines gathered before a flush at the latest: bounds the gathering list when a text holds no program end.
+  static constexpr std::size_t kMaxPendingLines = std::size_t{1} << 16;
+
   KCC_NcFile& m_file;
   const bool m_checkFirstBlock;
   const bool m_keepUnfinished;
@@ -342,6 +369,9 @@ class KCC_NcFile::Loader {
   bool m_budgetRanOut = false;
   bool m_firstBlockFound = false;
   bool m_pendingSub = false;
+  // Room for kMaxPendingLines spans, left uninitialised: only the pages that a load fills are touched.
+  std::unique_ptr<Span[]> m_lines{new Span[kMaxPendingLines]};
+  std::size_t m_lineCount = 0;
 };
 
 KCC_NcFile::KCC_NcFile() = default;
@@ -354,7 +384,7 @@ KCC_NcFileProgram* KCC_NcFile::LoadFromStringList(const KCStringList& text, bool
   m_tooLongLine = 0;
   Loader loader(*this, checkFirstBlock, keepUnfinished);
   for (const KCString& line : text) {
-    if (!loader.Line(line.str().data(), line.size()))
+    if (!loader.Line(line.str().data(), line.size(), true))
       break;
   }
   return loader.Finish();
@@ -390,8 +420,8 @@ KCC_NcFileProgram* KCC_NcFile::LoadFile(const KCString& fileName, bool checkFirs
   BufferedLineReader reader(file.get(), lineLimit);
   const char* p = nullptr;
   std::size_t n = 0;
-  while (reader.Next(p, n)) {
-    if (!loader.Line(p, n))
+  while (reader.Next(p, n, [&loader] { loader.Flush(); })) {
+    if (!loader.Line(p, n, false))
       break;
   }
   file.reset();

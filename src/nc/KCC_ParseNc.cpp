@@ -3,6 +3,7 @@
 #include "ncappkit/nc/KCC_ParseNc.h"
 
 #include "foundation/KCCharClass.h"
+#include "nc/NcTextScan.h"
 
 #include <cstring>
 
@@ -78,39 +79,18 @@ bool ScanParameterValue(const char* text, std::size_t length, int& intValue, dou
   return true;
 }
 
-// Shared scan of the program-end tests. `codes` are three-character codes compared at every position
-// outside round brackets; `found[k]` is written at each such position. Returns the index of the code that
-// ended the scan, or -1.
-template <std::size_t N>
-int ScanEndCodes(const char* line, const char* const (&codes)[N], bool* found[N]) {
+// The program-end tests on a NUL-terminated line: the codes of `accepted` (EndCode bits) outside round
+// brackets. `foundM30` / `foundM99` tell which code ended the scan; when none did they become false, unless
+// no position was compared (then they keep their values).
+bool ScanLineEndCodes(const char* line, unsigned accepted, bool& foundM30, bool& foundM99) {
   if (line == nullptr)
-    return -1;
-  const std::size_t length = std::strlen(line);
-  if (length < 3)
-    return -1;
-  const std::size_t last = length - 3;
-  bool inComment = false;
-  for (std::size_t i = 0; i <= last; ++i) {
-    const char c = line[i];
-    if (c == '(') {
-      inComment = true;
-      continue;
-    }
-    if (c == ')')
-      inComment = false;
-    if (inComment)
-      continue;
-    int hit = -1;
-    for (std::size_t k = 0; k < N; ++k) {
-      const bool match = std::memcmp(line + i, codes[k], 3) == 0;
-      *found[k] = match;
-      if (match)
-        hit = static_cast<int>(k);
-    }
-    if (hit >= 0 && (i == last || !IsDigit(line[i + 3])))
-      return hit;
+    return false;
+  const ncappkit_detail::EndCodeScan scan = ncappkit_detail::ScanEndCode(line, std::strlen(line), accepted);
+  if (scan.compared) {
+    foundM30 = scan.code == ncappkit_detail::kEndM30;
+    foundM99 = scan.code == ncappkit_detail::kEndM99;
   }
-  return -1;
+  return scan.code != ncappkit_detail::kEndNone;
 }
 
 }  // namespace
@@ -148,22 +128,23 @@ bool KCC_ParseNc::DecodeISOLine(const KCString& line) {
   if (end - p < 2)
     return false;
 
-  bool inComment = false;
   NcAddressSlot* current = nullptr;
   bool keepsDouble = false;
   bool integerPart = true;
   bool minusPending = false;
   std::int32_t divisor = 10;
+  const char* const begin = text.data();
+  const std::size_t size = text.size();
 
   for (; p != end; ++p) {
     const char c = *p;
-    if (inComment) {
-      if (c != ')')
-        continue;
-      inComment = false;
-    } else if (c == '(') {
-      inComment = true;
+    if (c == '(') {
+      // A comment ends the word before it; its text is skipped up to the ')', which is read as an ordinary
+      // character (and so decodes nothing).
       current = nullptr;
+      p = begin + ncappkit_detail::CommentEnd(begin, static_cast<std::size_t>(p - begin) + 1, size);
+      if (p == end)
+        break;
       continue;
     }
     if (c >= 'A' && c <= 'Z') {
@@ -328,10 +309,9 @@ bool KCC_ParseNc::Check_M30_Command(char* line) {
 }
 
 bool KCC_ParseNc::Check_M30_Command(const char* line) {
-  static const char* const kCodes[1] = {"M30"};
   bool found30 = false;
-  bool* flags[1] = {&found30};
-  return ScanEndCodes(line, kCodes, flags) >= 0;
+  bool found99 = false;
+  return ScanLineEndCodes(line, ncappkit_detail::kEndM30, found30, found99);
 }
 
 bool KCC_ParseNc::Check_M30_M99_Command(char* line, bool& foundM30, bool& foundM99) {
@@ -339,9 +319,7 @@ bool KCC_ParseNc::Check_M30_M99_Command(char* line, bool& foundM30, bool& foundM
 }
 
 bool KCC_ParseNc::Check_M30_M99_Command(const char* line, bool& foundM30, bool& foundM99) {
-  static const char* const kCodes[2] = {"M99", "M30"};
-  bool* flags[2] = {&foundM99, &foundM30};
-  return ScanEndCodes(line, kCodes, flags) >= 0;
+  return ScanLineEndCodes(line, ncappkit_detail::kEndM30 | ncappkit_detail::kEndM99, foundM30, foundM99);
 }
 
 bool KCC_ParseNc::GetProgramNumber(const KCString& line, int& number) {

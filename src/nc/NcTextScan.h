@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+// Internal helper of the NC sources: the scans of NC text that the file splitter, the block decoder and the
+// line tests share, so that each rule lives in one place.
+//
+// Round brackets: a '(' starts a comment, the first ')' after it ends it (a '(' inside a comment changes
+// nothing, a ')' outside one is an ordinary character). Codes are only looked for outside comments.
+//
+// The scans skip whole stretches at a time (eight bytes per step, or memchr) instead of testing character
+// by character: they run on every line of every file loaded.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+#include "foundation/KCCharClass.h"
+
+namespace ncappkit_detail {
+
+/// Index of the first byte in [from, to) equal to `a` or `b`; `to` when there is none.
+inline std::size_t FindEitherChar(const char* p, std::size_t from, std::size_t to, char a, char b) noexcept {
+  constexpr std::uint64_t kOnes = 0x0101010101010101ull;
+  constexpr std::uint64_t kHighBits = 0x8080808080808080ull;
+  const std::uint64_t aa = kOnes * static_cast<unsigned char>(a);
+  const std::uint64_t bb = kOnes * static_cast<unsigned char>(b);
+  std::size_t i = from;
+  // A word holding neither byte is skipped whole; a word that may hold one (the zero-byte test can report a
+  // false hit above a true one, never miss one) is searched byte by byte.
+  for (; i + 8 <= to; i += 8) {
+    std::uint64_t word = 0;
+    std::memcpy(&word, p + i, 8);
+    const std::uint64_t xa = word ^ aa;
+    const std::uint64_t xb = word ^ bb;
+    if ((((xa - kOnes) & ~xa) | ((xb - kOnes) & ~xb)) & kHighBits)
+      break;
+  }
+  for (; i < to; ++i) {
+    if (p[i] == a || p[i] == b)
+      return i;
+  }
+  return to;
+}
+
+/// Index of the ')' that ends a comment whose text starts at `from` (just after its '('); `n` when the
+/// comment runs to the end of the text.
+inline std::size_t CommentEnd(const char* p, std::size_t from, std::size_t n) noexcept {
+  if (from >= n)
+    return n;
+  const void* close = std::memchr(p + from, ')', n - from);
+  return close == nullptr ? n : static_cast<std::size_t>(static_cast<const char*>(close) - p);
+}
+
+/// Calls visit(k) for every position k < limit that holds `c` outside round brackets, in order, until visit
+/// returns true; the text is p[0, n) and its scan starts outside a comment. Returns true when visit stopped
+/// the scan. `endsInComment`, when given, tells whether position limit - 1 lies inside a comment (its '('
+/// counted as inside) at the end of a scan that was not stopped.
+template <class Visit>
+bool ForEachOutsideComments(const char* p, std::size_t n, std::size_t limit, char c, Visit visit,
+                            bool* endsInComment = nullptr) {
+  std::size_t i = 0;
+  while (i < limit) {
+    const std::size_t k = FindEitherChar(p, i, limit, c, '(');
+    if (k == limit)
+      break;
+    if (p[k] == '(') {
+      const std::size_t close = CommentEnd(p, k + 1, n);
+      if (close >= limit) {
+        if (endsInComment != nullptr)
+          *endsInComment = true;
+        return false;
+      }
+      i = close + 1;  // the ')' itself is outside, and is not `c`
+      continue;
+    }
+    if (visit(k))
+      return true;
+    i = k + 1;
+  }
+  if (endsInComment != nullptr)
+    *endsInComment = false;
+  return false;
+}
+
+/// The program-end codes. Which of them a test accepts is the caller's choice: the file splitter takes all
+/// three, KCC_ParseNc's line tests take M30 alone or M30 and M99.
+enum EndCode : unsigned {
+  kEndNone = 0,
+  kEndM30 = 1,  ///< M30 outside brackets, not followed by a digit
+  kEndM99 = 2,  ///< M99 outside brackets, not followed by a digit
+  kEndRET = 4,  ///< RET as the first three characters of the text
+};
+
+/// Result of ScanEndCode.
+struct EndCodeScan {
+  EndCode code = kEndNone;  ///< the accepted code that ended the scan
+  bool compared = false;    ///< some position outside brackets was compared with the codes
+  bool retAtLast = false;   ///< no code: the last position compared (n - 3) held RET, which counts only first
+};
+
+/// Looks for the first program-end code of `accepted` (a set of EndCode bits) in p[0, n). Positions 0 to
+/// n - 3 outside round brackets are compared; an M code directly followed by a digit (M300, M991) is no end.
+inline EndCodeScan ScanEndCode(const char* p, std::size_t n, unsigned accepted) noexcept {
+  EndCodeScan result;
+  if (n < 3)
+    return result;
+  const std::size_t last = n - 3;
+  if ((accepted & kEndRET) != 0 && std::memcmp(p, "RET", 3) == 0) {
+    result.code = kEndRET;
+    result.compared = true;
+    return result;
+  }
+  bool endsInComment = false;
+  const bool stopped = ForEachOutsideComments(
+      p, n, last + 1, 'M',
+      [&](std::size_t k) {
+        EndCode code = kEndNone;
+        if (p[k + 1] == '3' && p[k + 2] == '0')
+          code = kEndM30;
+        else if (p[k + 1] == '9' && p[k + 2] == '9')
+          code = kEndM99;
+        if ((accepted & code) == 0 || (k != last && IsDigit(p[k + 3])))
+          return false;
+        result.code = code;
+        return true;
+      },
+      &endsInComment);
+  result.compared = true;
+  if (stopped)
+    return result;
+  // Position 0 is compared unless it opens a comment; then the first position compared is its ')'.
+  if (p[0] == '(')
+    result.compared = std::memchr(p, ')', last + 1) != nullptr;
+  result.retAtLast = !endsInComment && std::memcmp(p + last, "RET", 3) == 0;
+  return result;
+}
+
+}  // namespace ncappkit_detail

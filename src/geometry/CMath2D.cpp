@@ -456,23 +456,63 @@ void CMath2D::GetRectangle(const KCI_d2DLine& line, KC2DArea& area) {
 // ---------------------------------------------------------------------------------------------------------
 // lines
 
+// The distance is computed on plain coordinates, with the very operations of the KCGeometry route (project
+// the point on the line, test the foot with Point2DOnClosedLine, then the perpendicular distance or the
+// nearer end), so every result, the degenerate ones included, is the same bit for bit; it only saves the
+// line and point objects and the calls, which made up most of its time.
 double CMath2D::DistancePoint2Line(const KCI_d2DLine& line, const KCI_d2DPoint& p, bool segment) {
-  const KC2DLine kline(line.GetStartX(), line.GetStartY(), line.GetEndX(), line.GetEndY());
-  const KC2DPoint kp(p.GetX(), p.GetY());
+  const double sx = line.GetStartX();
+  const double sy = line.GetStartY();
+  const double ex = line.GetEndX();
+  const double ey = line.GetEndY();
+  const double px = p.GetX();
+  const double py = p.GetY();
+  const double dx = ex - sx;
+  const double dy = ey - sy;
+  const double len2 = dx * dx + dy * dy;
+
   // The foot only decides between the perpendicular and the nearer end, so the infinite line skips it.
   bool perpendicular = true;
   if (segment) {
-    KC2DPoint foot;
-    KCGeometry::ProjectPointOnLine(foot, kline, kp);
-    perpendicular = KCGeometry::Point2DOnClosedLine(kline, foot) > 0;
+    // KCGeometry::ProjectPointOnLine: a zero-length line projects everything on its start point.
+    double fx = sx;
+    double fy = sy;
+    if (len2 != 0.0) {
+      const double t = (dx * (px - sx) + dy * (py - sy)) / len2;
+      fx = sx + t * dx;
+      fy = sy + t * dy;
+    }
+    // KCGeometry::Point2DOnClosedLine(line, foot) > 0: at the start, at the end, or inside within a
+    // tolerance that grows with the line's coordinates (8 units in the last place of the largest).
+    constexpr double kTolerance = KCGeometry::kOnLineTolerance;
+    constexpr double kTolerance2 = kTolerance * kTolerance;
+    const double magnitude = std::max({std::fabs(sx), std::fabs(sy), std::fabs(ex), std::fabs(ey)});
+    const double lineTolerance =
+        std::max(kTolerance, 8.0 * std::numeric_limits<double>::epsilon() * magnitude);
+    const double fsx = fx - sx;
+    const double fsy = fy - sy;
+    const double fex = fx - ex;
+    const double fey = fy - ey;
+    if (fsx * fsx + fsy * fsy <= kTolerance2 || fex * fex + fey * fey <= kTolerance2) {
+      perpendicular = true;
+    } else if (!(len2 > 0.0)) {
+      perpendicular = false;
+    } else {
+      const double cross = dx * fsy - dy * fsx;
+      const double dot = dx * fsx + dy * fsy;
+      perpendicular = cross * cross <= lineTolerance * lineTolerance * len2 && dot >= 0.0 && dot <= len2;
+    }
   }
   if (perpendicular) {
-    double distance = 0.0;
-    KCGeometry::GetDistanceLinePoint(kline, kp, distance);
-    return distance;
+    // KCGeometry::GetDistanceLinePoint: |cross(e - s, p - s)| / |e - s|, or the distance to the start
+    // point of a zero-length line.
+    const double len = std::sqrt(len2);
+    if (len == 0.0)
+      return std::sqrt((px - sx) * (px - sx) + (py - sy) * (py - sy));
+    return std::fabs(dx * (py - sy) - dy * (px - sx)) / len;
   }
-  const double toStart = KC2DLine(kp, kline.GetStartPoint()).Len();
-  const double toEnd = KC2DLine(kp, kline.GetEndPoint()).Len();
+  const double toStart = std::sqrt((sx - px) * (sx - px) + (sy - py) * (sy - py));
+  const double toEnd = std::sqrt((ex - px) * (ex - px) + (ey - py) * (ey - py));
   return toEnd < toStart ? toEnd : toStart;
 }
 

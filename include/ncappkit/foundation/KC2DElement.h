@@ -303,7 +303,8 @@ class NCAPPKIT_EXPORT KC2DLine : public KC2DElement {
 
 // An arc is its start point, end point, centre and turning sense. The radius is the distance from the
 // centre to the start point; the end point is taken as given (an inconsistent end only shifts the end angle).
-// Start and end within 1e-9 of each other make a full circle.
+// Start and end within kArcCircleTolerance of each other make a full circle (see the constants of
+// src/foundation/KC2DElement.cpp).
 /// A circular arc: start, end, centre and turning sense; the radius follows the start point.
 class NCAPPKIT_EXPORT KC2DArc : public KC2DElement {
  public:
@@ -337,7 +338,7 @@ class NCAPPKIT_EXPORT KC2DArc : public KC2DElement {
   bool IsClockwise() const noexcept { return !m_ccw; }
   /// Same as IsCCW.
   bool IsCounterClockwise() const noexcept { return m_ccw; }
-  /// True when start and end coincide within 1e-9 in each coordinate (the arc is a full circle).
+  /// True when start and end coincide within kArcCircleTolerance in each coordinate (a full circle).
   bool IsCircle() const noexcept;
   /// Bring the arc into counter-clockwise form covering the same points: a clockwise arc gets start and end
   /// exchanged and turns counter-clockwise; a counter-clockwise arc is left as it is.

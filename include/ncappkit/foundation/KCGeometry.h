@@ -44,7 +44,8 @@ class NCAPPKIT_EXPORT KCGeometry {
   /// zero-length line `result` is its start point, and false.
   static bool ProjectPointOnLine(KC2DPoint& result, const KC2DLine& line, const KC2DPoint& point) noexcept;
   /// Where `point` lies relative to the closed segment `line`, within kOnLineTolerance (for kInside widened
-  /// to 8 units in the last place of the line's largest coordinate): kAtStart, kAtEnd, kInside (all > 0), or
-  /// kOff (0). NaN coordinates give kOff.
+  /// to kOnLineRoundingUnits units in the last place of the line's largest coordinate, see
+  /// src/foundation/KCGeometry.cpp): kAtStart, kAtEnd, kInside (all > 0), or kOff (0). NaN coordinates give
+  /// kOff.
   static int Point2DOnClosedLine(const KC2DLine& line, const KC2DPoint& point) noexcept;
 };

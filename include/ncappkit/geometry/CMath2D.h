@@ -16,9 +16,11 @@
 //   CMath2D::Cd2DArc arc(CMath2D::Cd2DArc::eArcCCW, 1, 0, 0, 1, 0, 0);
 //   double sweep = CMath2D::GetArcAngleDeg(arc);                  // 90
 //
-// Every tolerance is an absolute constant of its own operation (see each operation); they are deliberately
-// not unified. Nothing throws except the four start/end angle operations, which throw IMath2DException by
-// value for an arc that is neither clockwise nor counter-clockwise.
+// Every tolerance is an absolute constant of its own operation, named in the operation's comment; the values
+// are in the tolerance block of src/geometry/CMath2D.cpp (the circle kernels' ones in
+// src/geometry/CircleKernels.h). They are deliberately not unified. Nothing throws except the four start/end
+// angle operations, which throw IMath2DException by value for an arc that is neither clockwise nor
+// counter-clockwise.
 #pragma once
 
 #include "ncappkit/export.h"
@@ -88,8 +90,8 @@ class NCAPPKIT_EXPORT CMath2D {
     /// Set the y coordinate.
     void SetY(double y) override { m_y = y; }
 
-    /// True when both coordinates differ by at most 1e-7 (a difference of exactly 1e-7 is still equal); the
-    /// other point is read through its GetX/GetY, x first.
+    /// True when both coordinates differ by at most kPointEqualTolerance (a difference of exactly that much
+    /// is still equal); the other point is read through its GetX/GetY, x first.
     bool operator==(const Cd2DPoint& other) const;
     /// Exact negation of ==.
     bool operator!=(const Cd2DPoint& other) const;
@@ -380,25 +382,25 @@ class NCAPPKIT_EXPORT CMath2D {
   static void GetMiddle(const KCI_d2DPoint& a, const KCI_d2DPoint& b, KCI_d2DPoint& out);
   /// out = the middle of the segment.
   static void GetCenter(const KCI_d2DLine& line, KCI_d2DPoint& out);
-  /// |endY - startY| < 1e-7.
+  /// |endY - startY| < kLineAxisTolerance.
   static bool IsHorizontal(const KCI_d2DLine& line);
-  /// |endX - startX| < 1e-7.
+  /// |endX - startX| < kLineAxisTolerance.
   static bool IsVertical(const KCI_d2DLine& line);
-  /// Direction of the line, atan2(dy, dx); 0 when |dx| and |dy| are both below 1e-4.
+  /// Direction of the line, atan2(dy, dx); 0 when |dx| and |dy| are both below kLineAngleDegenerateTolerance.
   static double GetAngleRad(const KCI_d2DLine& line);
   /// GetAngleRad in degrees.
   static double GetAngleDeg(const KCI_d2DLine& line);
 
   // ----- arcs -----------------------------------------------------------------------------------------
 
-  /// Start and end coincide within 1e-6 in each coordinate.
+  /// Start and end coincide within kArcClosedTolerance in each coordinate.
   static bool IsCircle(const KCI_d2DArc& arc);
   /// Distance from the centre to the start point: the radius of every arc computation.
   static double GetArcRadius(const KCI_d2DArc& arc);
   /// Distance from the centre to p.
   static double DistanceCenterOfArc2Point(const KCI_d2DArc& arc, const KCI_d2DPoint& p);
-  /// Angle of (x, y) seen from the centre, atan2 in (-pi, pi]; 0 when (x, y) is within 1e-4 of the centre in
-  /// both coordinates.
+  /// Angle of (x, y) seen from the centre, atan2 in (-pi, pi]; 0 when (x, y) is within
+  /// kArcPointAngleDegenerateTolerance of the centre in both coordinates.
   static double CalcArcPointAngleRad(const KCI_d2DArc& arc, double x, double y);
   /// CalcArcPointAngleRad in degrees, (-180, 180].
   static double CalcArcPointAngleDeg(const KCI_d2DArc& arc, double x, double y);
@@ -424,8 +426,9 @@ class NCAPPKIT_EXPORT CMath2D {
   /// GetEndAngleTangentRad in degrees.
   static double GetEndAngleTangentDeg(const KCI_d2DArc& arc);
   /// Whether the direction angleDeg lies on the sweep from startDeg to endDeg in the arc's turning sense
-  /// (both senses, despite the name). The ends match within 1e-6 degrees, the inside within 1e-7; an arc of
-  /// type 0 accepts only its two end directions, a full circle accepts everything.
+  /// (both senses, despite the name). The ends match within kAngleEndTolerance degrees, the inside is widened
+  /// by kAngleInsideTolerance degrees; an arc of type 0 accepts only its two end directions, a full circle
+  /// accepts everything.
   static bool AngleOnCCWArcSegment(const KCI_d2DArc& arc, double startDeg, double endDeg, double angleDeg);
   /// Whether p's direction from the centre lies on the arc (true for a full circle); p's distance from the
   /// centre is not checked.
@@ -440,8 +443,8 @@ class NCAPPKIT_EXPORT CMath2D {
   static void GetArcPointByOffset(const KCI_i2DArc& arc, double fraction, int& x, int& y);
   /// As above, written through out.SetX, out.SetY.
   static void GetArcPointByOffset(const KCI_i2DArc& arc, double fraction, KCI_i2DPoint& out);
-  /// Radial projection of p onto the arc's full circle; false (out untouched) when p is within 1e-8 of the
-  /// centre.
+  /// Radial projection of p onto the arc's full circle; false (out untouched) when p is within
+  /// kProjectCentreTolerance of the centre.
   static bool ProjectedPointOnArcWc(const KCI_d2DArc& arc, const KCI_d2DPoint& p, KCI_d2DPoint& out);
   /// Append the arc's quadrant points: all four (0, 90, 180, -90 degrees) for a full circle; otherwise
   /// (cx + r, cy) when 0 degrees is on the arc, (cx, cy + r) when 180 degrees is, (cx - r, cy) when 90
@@ -460,7 +463,8 @@ class NCAPPKIT_EXPORT CMath2D {
   static double DistancePoint2Line(const KCI_d2DLine& line, const KCI_d2DPoint& p, bool segment);
   /// As above, stored into dist.
   static void DistancePoint2Line(const KCI_d2DLine& line, const KCI_d2DPoint& p, double& dist, bool segment);
-  /// Bounding-box test only, 1e-5 tolerance: (x, y) inside the segment's box (collinearity not checked).
+  /// Bounding-box test only: (x, y) inside the segment's box widened by kBelongsBoxTolerance (collinearity
+  /// not checked).
   static bool PointBelongsToLine(const KCI_d2DLine& line, double x, double y);
   /// The same box test on p's own coordinates (p is not projected first).
   static bool ProjectPointBelongsToLine(const KCI_d2DLine& line, const KCI_d2DPoint& p);
@@ -468,7 +472,7 @@ class NCAPPKIT_EXPORT CMath2D {
   static bool ProjectPoint(const KCI_d2DLine& line, const KCI_d2DPoint& p, double& x, double& y);
   /// As above, written through out.SetX, out.SetY.
   static bool ProjectPoint(const KCI_d2DLine& line, const KCI_d2DPoint& p, KCI_d2DPoint& out);
-  /// Intersection of the two infinite lines (slope form, 1e-8 tolerance); false when parallel or both
+  /// Intersection of the two infinite lines (slope form, kLineLineTolerance); false when parallel or both
   /// vertical.
   static bool GetIntersectPoint(const KCI_d2DLine& a, const KCI_d2DLine& b, KCI_d2DPoint& out);
   /// As above; then, when onA (onB) is set, false if the point lies outside a's (b's) bounding box (exact
@@ -476,13 +480,14 @@ class NCAPPKIT_EXPORT CMath2D {
   static bool GetIntersectPoint(const KCI_d2DLine& a, const KCI_d2DLine& b, KCI_d2DPoint& out, bool onA,
                                 bool onB);
   /// The line through p parallel to `line`, its ends the perpendicular feet of line's ends; angleDeg its
-  /// direction (90 for vertical, 0 for horizontal lines, within 0.001). Always true.
+  /// direction (90 for vertical, 0 for horizontal lines, within kParallelAxisTolerance). Always true.
   static bool GetParallelLine(const KCI_d2DLine& line, const KCI_d2DPoint& p, KCI_d2DLine& out,
                               double& angleDeg);
   /// As above without the angle.
   static bool GetParallelLine(const KCI_d2DLine& line, const KCI_d2DPoint& p, KCI_d2DLine& out);
   /// The two parallels at distance dist: left of the direction start->end and right of it (for a vertical
-  /// line left is -x, for a horizontal one +y, within 0.001); angleDeg as GetParallelLine. Always true.
+  /// line left is -x, for a horizontal one +y, within kParallelAxisTolerance); angleDeg as GetParallelLine.
+  /// Always true.
   static bool GetParallelLinesAtDist(const KCI_d2DLine& line, double dist, KCI_d2DLine& left,
                                      KCI_d2DLine& right, double& angleDeg);
   /// As above without the angle.
@@ -491,8 +496,9 @@ class NCAPPKIT_EXPORT CMath2D {
 
   // ----- intersections with arcs (the arc's full circle; the sweep is not checked) -----------------------
 
-  /// The arc's circle and the line at height y: tangent within 1e-4 gives p1 = p2 = (cx, y); a miss by more
-  /// than r + 1e-5 gives false; else p1 = (cx + h, y), p2 = (cx - h, y).
+  /// The arc's circle and the line at height y: tangent within kAxisLineTangentTolerance gives
+  /// p1 = p2 = (cx, y); a miss by more than r + kAxisLineMissTolerance gives false; else p1 = (cx + h, y),
+  /// p2 = (cx - h, y).
   static bool GetHorLineIntersection(const KCI_d2DArc& arc, double y, KCI_d2DPoint& p1, KCI_d2DPoint& p2);
   /// Mirror of GetHorLineIntersection for the line at x: p1 = (x, cy + h), p2 = (x, cy - h).
   static bool GetVerLineIntersection(const KCI_d2DArc& arc, double x, KCI_d2DPoint& p1, KCI_d2DPoint& p2);
@@ -502,16 +508,18 @@ class NCAPPKIT_EXPORT CMath2D {
   /// GetVerLineIntersection at v.GetPosX().
   static bool GetIntersection(const KCI_d2DArc& arc, const KCI_d2DVerLine& v, KCI_d2DPoint& p1,
                               KCI_d2DPoint& p2);
-  /// The arc's circle and the infinite line: horizontal (1e-5) and vertical (1e-5) lines go to the two
-  /// operations above; a slope below 1e-5 otherwise gives false; else the roots of the quadratic (false when
-  /// the discriminant is below -1e-6; within 1e-6 of 0 it counts as 0).
+  /// The arc's circle and the infinite line: horizontal and vertical lines (within kArcLineAxisTolerance) go
+  /// to the two operations above; a slope below kArcLineAxisTolerance otherwise gives false; else the roots
+  /// of the quadratic (false when the discriminant is below -kArcLineDiscriminantTolerance; within
+  /// kArcLineDiscriminantTolerance of 0 it counts as 0).
   static bool GetIntersection(const KCI_d2DArc& arc, const KCI_d2DLine& line, KCI_d2DPoint& p1,
                               KCI_d2DPoint& p2);
-  /// The two arcs' circles: false when the centres are within 1e-6 (concentric), farther apart than
-  /// r1 + r2, or when one circle lies inside the other (h² < -1e-5); a touch (|h²| < 1e-5) gives p1 = p2.
+  /// The two arcs' circles: false when the centres are within kConcentricTolerance (concentric), farther
+  /// apart than r1 + r2, or when one circle lies inside the other (h² < -kCircleTouchTolerance); a touch
+  /// (|h²| < kCircleTouchTolerance) gives p1 = p2.
   static bool GetIntersection(const KCI_d2DArc& a, const KCI_d2DArc& b, KCI_d2DPoint& p1, KCI_d2DPoint& p2);
   /// The two points where the tangents from p touch the arc's circle; false when p is inside, on, or within
-  /// 1e-4 outside the circle.
+  /// kTangentOutsideTolerance outside the circle.
   static bool GetCircleTangentPoints(const KCI_d2DArc& arc, const KCI_d2DPoint& p, KCI_d2DPoint& t1,
                                      KCI_d2DPoint& t2);
 };

@@ -12,6 +12,9 @@
 //   CMath2D::Cd2DPoint p1, p2;
 //   if (CMathAuxShapes::GetIntersection(circle, line, p1, p2)) { ... }   // (1.732.., 1), (-1.732.., 1)
 //
+// Tolerances are named in each operation's comment; their values are in the tolerance block of
+// src/geometry/CMathAuxShapes.cpp (the circle kernels' ones in src/geometry/CircleKernels.h).
+//
 // CAuxCircle implements only the radius of KCI_AuxCircle; its GetXPos/SetXPos/GetYPos/SetYPos are plain
 // members that do not implement the interface's centre operations, so CAuxCircle is abstract. The ready-made
 // circle is CAuxCircleImpl, a CAuxCircle whose interface centre operations read and write those same fields.
@@ -178,10 +181,11 @@ class NCAPPKIT_EXPORT CMathAuxShapes {
 
   // ----- predicates -----------------------------------------------------------------------------------
 
-  /// The angle is a whole multiple of 180 degrees: q = |a / 180|, |q - trunc(q + 1e-6)| < 1e-6.
+  /// The angle is a whole multiple of 180 degrees: q = |a / 180|, |q - trunc(q + t)| < t with
+  /// t = kAuxAxisTolerance.
   static bool IsHorizontal(const KCI_AuxLine& line);
-  /// The angle is 90 degrees plus a whole multiple of 180: q = (|a| - 90) / 180, |q - trunc(q + 1e-6)| <
-  /// 1e-6.
+  /// The angle is 90 degrees plus a whole multiple of 180: q = (|a| - 90) / 180, |q - trunc(q + t)| < t with
+  /// t = kAuxAxisTolerance.
   static bool IsVertical(const KCI_AuxLine& line);
 
   // ----- distance from a point; foot = the nearest point of the shape ----------------------------------
@@ -217,8 +221,9 @@ class NCAPPKIT_EXPORT CMathAuxShapes {
   /// The distance of (x, y) from the circle, the foot into `foot`, as above.
   static double DistanceFromPointToAuxShape(const KCI_AuxCircle& shape, double x, double y,
                                             CMath2D::Cd2DPoint& foot);
-  /// Perpendicular distance and foot; horizontal and vertical lines as above; when |tan| < 1e-7 otherwise
-  /// (cannot happen for finite angles that are not horizontal) 99999999.9 with the foot untouched.
+  /// Perpendicular distance and foot; horizontal and vertical lines as above; when
+  /// |tan| < kAuxDistanceSlopeTolerance otherwise (cannot happen for finite angles that are not horizontal)
+  /// kNoDistance (99999999.9) with the foot untouched.
   static double DistanceFromPointToAuxShape(const KCI_AuxLine& shape, const CMath2D::Cd2DPoint& p);
   /// As above, the foot into `foot` (untouched in the no-distance case).
   static double DistanceFromPointToAuxShape(const KCI_AuxLine& shape, const CMath2D::Cd2DPoint& p,
@@ -237,21 +242,23 @@ class NCAPPKIT_EXPORT CMathAuxShapes {
   /// Line (infinite) and vertical line; false when the line is vertical (CMath2D::IsVertical).
   static bool GetIntersection(const CMath2D::Cd2DLine& line, const KCI_AuxVerLine& aux,
                               CMath2D::Cd2DPoint& p);
-  /// Line (infinite) and aux line; false when their tangents differ by less than 1e-5.
+  /// Line (infinite) and aux line; false when their tangents differ by less than kAuxParallelTolerance.
   static bool GetIntersection(const CMath2D::Cd2DLine& line, const KCI_AuxLine& aux, CMath2D::Cd2DPoint& p);
   /// Aux line and horizontal line; false when the aux line is horizontal.
   static bool GetIntersection(const KCI_AuxLine& line, const KCI_AuxHorLine& aux, CMath2D::Cd2DPoint& p);
   /// Aux line and vertical line; false when the aux line is vertical.
   static bool GetIntersection(const KCI_AuxLine& line, const KCI_AuxVerLine& aux, CMath2D::Cd2DPoint& p);
-  /// Two aux lines; false when their tangents differ by less than 1e-5.
+  /// Two aux lines; false when their tangents differ by less than kAuxParallelTolerance.
   static bool GetIntersection(const KCI_AuxLine& first, const KCI_AuxLine& second, CMath2D::Cd2DPoint& p);
-  /// Circle and horizontal line: tangent within 1e-4 gives p1 = p2 = (cx, y); beyond r + 1e-5 false.
+  /// Circle and horizontal line: tangent within kAxisLineTangentTolerance gives p1 = p2 = (cx, y); beyond
+  /// r + kAxisLineMissTolerance false.
   static bool GetIntersection(const KCI_AuxCircle& circle, const KCI_AuxHorLine& aux, CMath2D::Cd2DPoint& p1,
                               CMath2D::Cd2DPoint& p2);
   /// Circle and vertical line, the mirror of the horizontal case.
   static bool GetIntersection(const KCI_AuxCircle& circle, const KCI_AuxVerLine& aux, CMath2D::Cd2DPoint& p1,
                               CMath2D::Cd2DPoint& p2);
-  /// Circle and aux line: false when |tan| < 1e-5 (for a non-axis line) or the discriminant is below -1e-6.
+  /// Circle and aux line: false when |tan| < kAuxCircleSlopeTolerance (for a non-axis line) or the
+  /// discriminant is below -kAuxCircleDiscriminantTolerance.
   static bool GetIntersection(const KCI_AuxCircle& circle, const KCI_AuxLine& aux, CMath2D::Cd2DPoint& p1,
                               CMath2D::Cd2DPoint& p2);
   /// Two circles, as CMath2D's circle–circle intersection.

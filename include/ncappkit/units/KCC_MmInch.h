@@ -26,7 +26,8 @@
 // - Dim_MmInchConvert truncates the scaled value without sign handling, so -25.4 mm gives -0.9999 inch.
 // - ConvertStringWithUnitAsDouble always reads the text in front of "MM" (the whole text when there is no
 //   "MM"); its "INCH" and no-suffix branches are never reached. ConvertStringWithUnitAsInt reaches all three.
-// - Rounding in the undefined selection applies no digits but returns the magnitude of values below -1e-7.
+// - Rounding in the undefined selection applies no digits but returns the magnitude of values below
+//   kNegativeThreshold (see the constants of src/units/KCC_MmInch.cpp).
 //
 // Choices for values the integer arithmetic cannot hold: the rounding and conversion steps truncate a scaled
 // value to a 32-bit integer. When the scaled value lies outside the 32-bit range (above 2,147,483.647 mm at 3
@@ -146,7 +147,7 @@ class NCAPPKIT_EXPORT KCC_MmInch_Rounding {
   int DigitsBehindSpecificWeight() const noexcept;
 
  private:
-  /// -1.0 for values below -1e-7, +1.0 otherwise.
+  /// -1.0 for values below kNegativeThreshold, +1.0 otherwise.
   double GetPosNegFactor(double value) const noexcept;
   double Round(double value, int digits) const noexcept;
 

@@ -5,39 +5,27 @@
 #include <string>
 #include <vector>
 
-#include "support/ChildProcess.h"
+#include "support/NckitFixture.h"
 
 namespace {
 
-ChildResult Block(const std::vector<std::string>& args) {
-  std::vector<std::string> argv = {NCKIT_EXE, "block"};
-  argv.insert(argv.end(), args.begin(), args.end());
-  return RunChild(argv);
-}
-
-class NckitBlock : public ::testing::Test {
- protected:
-  void SetUp() override {
-    if (!CanRunChildren())
-      GTEST_SKIP() << "cannot run programs here";
-  }
-};
+class NckitBlock : public NckitTest {};
 
 }  // namespace
 
 TEST_F(NckitBlock, WritesOneWordPerLine) {
-  const ChildResult r = Block({"N10 G01 X-12.5 Y0.25 F300 M03"});
+  const ChildResult r = Run({"block", "N10 G01 X-12.5 Y0.25 F300 M03"});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_EQ(r.out, "F 300\nG 1\nM 3\nN 10\nX -12.5\nY 0.25\n");
   EXPECT_EQ(r.err, "");
 }
 
 TEST_F(NckitBlock, LaterGCodesAccumulate) {
-  EXPECT_EQ(Block({"G17 G90 G00"}).out, "G 17\nG(2nd) 9000\n");
+  EXPECT_EQ(Run({"block", "G17 G90 G00"}).out, "G 17\nG(2nd) 9000\n");
 }
 
 TEST_F(NckitBlock, JsonForm) {
-  const ChildResult r = Block({"M03 S1200.5", "--json"});
+  const ChildResult r = Run({"block", "M03 S1200.5", "--json"});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_EQ(
       r.out,
@@ -46,49 +34,49 @@ TEST_F(NckitBlock, JsonForm) {
 }
 
 TEST_F(NckitBlock, SeveralArgumentsAreOneBlock) {
-  EXPECT_EQ(Block({"X1", "Y2"}).out, "X 1\nY 2\n");
+  EXPECT_EQ(Run({"block", "X1", "Y2"}).out, "X 1\nY 2\n");
 }
 
 TEST_F(NckitBlock, MalformedBlockShowsTheWordsBeforeTheFault) {
-  const ChildResult r = Block({"Y7 X--5"});
+  const ChildResult r = Run({"block", "Y7 X--5"});
   EXPECT_EQ(r.exitCode, 1);
   EXPECT_EQ(r.out, "X 0\nY 7\n");
   EXPECT_NE(r.err.find("malformed block"), std::string::npos);
 }
 
 TEST_F(NckitBlock, VIsShownWithX) {
-  EXPECT_EQ(Block({"X1 V2"}).out, "V 2\nX 1\n");
-  EXPECT_EQ(Block({"V2 Y1"}).out, "Y 1\n");
+  EXPECT_EQ(Run({"block", "X1 V2"}).out, "V 2\nX 1\n");
+  EXPECT_EQ(Run({"block", "V2 Y1"}).out, "Y 1\n");
 }
 
 TEST_F(NckitBlock, OverlongFractionHasNoJsonNumber) {
-  const ChildResult r = Block({"X1." + std::string(40, '1'), "--json"});
+  const ChildResult r = Run({"block", "X1." + std::string(40, '1'), "--json"});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_NE(r.out.find("\"value\": null"), std::string::npos) << r.out;
 }
 
 TEST_F(NckitBlock, MissingBlockIsAUsageError) {
-  const ChildResult r = Block({});
+  const ChildResult r = Run({"block"});
   EXPECT_EQ(r.exitCode, 2);
   EXPECT_EQ(r.err, "nckit block: expects a BLOCK (try 'nckit block --help')\n");
 }
 
 TEST_F(NckitBlock, UnknownOptionIsAUsageError) {
-  EXPECT_EQ(Block({"X1", "--xml"}).exitCode, 2);
+  EXPECT_EQ(Run({"block", "X1", "--xml"}).exitCode, 2);
 }
 
 TEST_F(NckitBlock, NegativeNumberArgumentIsPartOfTheBlock) {
-  EXPECT_EQ(Block({"X", "-5"}).out, "");
+  EXPECT_EQ(Run({"block", "X", "-5"}).out, "");
 }
 
 TEST_F(NckitBlock, HelpExitsZero) {
-  const ChildResult r = Block({"--help"});
+  const ChildResult r = Run({"block", "--help"});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_EQ(r.out.rfind("usage: nckit block", 0), 0u);
 }
 
 TEST_F(NckitBlock, BlockWithoutAddressWordsSaysSo) {
-  const ChildResult r = Block({"x10 Z5 H1"});
+  const ChildResult r = Run({"block", "x10 Z5 H1"});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_EQ(r.out, "");
   EXPECT_EQ(
@@ -98,14 +86,14 @@ TEST_F(NckitBlock, BlockWithoutAddressWordsSaysSo) {
 }
 
 TEST_F(NckitBlock, FileLoadingOptionIsUnknownHere) {
-  const ChildResult r = Block({"--no-line-limit", "X1"});
+  const ChildResult r = Run({"block", "--no-line-limit", "X1"});
   EXPECT_EQ(r.exitCode, 2);
   EXPECT_EQ(r.out, "");
   EXPECT_EQ(r.err, "nckit block: unknown option '--no-line-limit' (try 'nckit block --help')\n");
 }
 
 TEST_F(NckitBlock, VInACommentOrWithoutANumberIsNoWord) {
-  EXPECT_EQ(Block({"X1 (V2)"}).out, "X 1\n");
-  EXPECT_EQ(Block({"X1 V 2"}).out, "X 1\n");
-  EXPECT_EQ(Block({"X1 (A) V-3.5"}).out, "V -3.5\nX 1\n");
+  EXPECT_EQ(Run({"block", "X1 (V2)"}).out, "X 1\n");
+  EXPECT_EQ(Run({"block", "X1 V 2"}).out, "X 1\n");
+  EXPECT_EQ(Run({"block", "X1 (A) V-3.5"}).out, "V -3.5\nX 1\n");
 }

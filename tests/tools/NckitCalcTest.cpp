@@ -5,123 +5,187 @@
 #include <string>
 #include <vector>
 
-#include "support/ChildProcess.h"
+#include "ncappkit/mathexpr/KCC_MathExpression.h"
+#include "support/NckitFixture.h"
 
 namespace {
 
-ChildResult Calc(const std::vector<std::string>& args) {
-  std::vector<std::string> argv = {NCKIT_EXE, "calc"};
-  argv.insert(argv.end(), args.begin(), args.end());
-  return RunChild(argv, 60.0);
-}
-
-class NckitCalc : public ::testing::Test {
- protected:
-  void SetUp() override {
-    if (!CanRunChildren())
-      GTEST_SKIP() << "cannot run programs here";
-  }
-};
+class NckitCalc : public NckitTest {};
 
 }  // namespace
 
 TEST_F(NckitCalc, PrintsTheValue) {
-  const ChildResult r = Calc({"2*(3+(4-1))"});
+  const ChildResult r = Run({"calc", "2*(3+(4-1))"});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_EQ(r.out, "12\n");
   EXPECT_EQ(r.err, "");
 }
 
-TEST_F(NckitCalc, PrintsTheShortestExactForm) {
-  EXPECT_EQ(Calc({"1/4"}).out, "0.25\n");
-  EXPECT_EQ(Calc({"1/3"}).out, "0.3333333333333333\n");
-  EXPECT_EQ(Calc({"sqrt(16)+Cos[0]"}).out, "5\n");
+struct CalcRow {
+  const char* name;
+  const char* expression;
+  const char* value;
+};
+
+class NckitCalcValue : public NckitParamTest<CalcRow> {};
+
+TEST_P(NckitCalcValue, PrintsTheShortestExactForm) {
+  const ChildResult r = Run({"calc", GetParam().expression});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(r.out, std::string(GetParam().value) + "\n");
 }
 
-TEST_F(NckitCalc, UsesTheFixedOperatorPriority) {
-  EXPECT_EQ(Calc({"8/2*2"}).out, "2\n");
-  EXPECT_EQ(Calc({"5-3+1"}).out, "1\n");
-}
+INSTANTIATE_TEST_SUITE_P(Expressions, NckitCalcValue,
+                         ::testing::Values(CalcRow{"Quarter", "1/4", "0.25"},
+                                           CalcRow{"Third", "1/3", "0.3333333333333333"},
+                                           CalcRow{"FunctionsAndSquareBrackets", "sqrt(16)+Cos[0]", "5"},
+                                           CalcRow{"AllMultiplicationsBeforeDivisions", "8/2*2", "2"},
+                                           CalcRow{"AllAdditionsBeforeSubtractions", "5-3+1", "1"},
+                                           CalcRow{"LeadingMinusBeforeABracket", "-(1+2)", "-3"},
+                                           CalcRow{"LeadingMinusBeforeAPoint", "-.5*2", "-1"}),
+                         NckitRowName());
 
 TEST_F(NckitCalc, LeadingMinusIsTheExpressionNotAnOption) {
-  const ChildResult r = Calc({"-3*2"});
+  const ChildResult r = Run({"calc", "-3*2"});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_EQ(r.out, "-6\n");
 }
 
 TEST_F(NckitCalc, DoubleDashEndsTheOptions) {
-  const ChildResult r = Calc({"--", "-3*2"});
+  const ChildResult r = Run({"calc", "--", "-3*2"});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_EQ(r.out, "-6\n");
 }
 
 TEST_F(NckitCalc, JoinsSeveralArguments) {
-  EXPECT_EQ(Calc({"2", "+", "3"}).out, "5\n");
+  EXPECT_EQ(Run({"calc", "2", "+", "3"}).out, "5\n");
 }
 
 TEST_F(NckitCalc, DivisionByZeroPrintsInfinity) {
-  const ChildResult r = Calc({"1/0"});
+  const ChildResult r = Run({"calc", "1/0"});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_EQ(r.out, "inf\n");
 }
 
 TEST_F(NckitCalc, EvaluationFaultPrintsTheMessage) {
-  const ChildResult r = Calc({"2*-3"});
+  const ChildResult r = Run({"calc", "2*-3"});
   EXPECT_EQ(r.exitCode, 1);
   EXPECT_EQ(r.out, "");
   EXPECT_EQ(r.err, "Apply operator : right item is not an operand\n");
 }
 
 TEST_F(NckitCalc, UnbalancedBracketsPrintTheMismatch) {
-  const ChildResult r = Calc({"((1+2)"});
+  const ChildResult r = Run({"calc", "((1+2)"});
   EXPECT_EQ(r.exitCode, 1);
   EXPECT_EQ(r.err, "Open/Close brackets mismatch !\n");
 }
 
 TEST_F(NckitCalc, CrossedBracketsFailClearly) {
-  const ChildResult r = Calc({")1+2("});
+  const ChildResult r = Run({"calc", ")1+2("});
   EXPECT_EQ(r.exitCode, 1);
   EXPECT_EQ(r.err, "nckit calc: cannot evaluate the expression\n");
 }
 
 TEST_F(NckitCalc, EmptyBracketsShowTheLastList) {
-  const ChildResult r = Calc({"()"});
+  const ChildResult r = Run({"calc", "()"});
   EXPECT_EQ(r.exitCode, 1);
   EXPECT_EQ(r.err, "nckit calc: cannot evaluate the expression; last list:\nResult SubList\n\n");
 }
 
 TEST_F(NckitCalc, UnknownFunctionIsNamed) {
-  const ChildResult r = Calc({"LOG(2)"});
+  const ChildResult r = Run({"calc", "LOG(2)"});
   EXPECT_EQ(r.exitCode, 1);
   EXPECT_EQ(r.err, "nckit calc: unknown function 'LOG'\n");
 }
 
-TEST_F(NckitCalc, EmptyOrBlankExpressionFails) {
-  for (const char* text : {"", "   ", ",;"}) {
-    SCOPED_TRACE(text);
-    const ChildResult r = Calc({text});
-    EXPECT_EQ(r.exitCode, 1);
-    EXPECT_EQ(r.err, "nckit calc: empty expression\n");
-  }
+struct CalcFailureRow {
+  const char* name;
+  const char* expression;
+  const char* err;
+};
+
+class NckitCalcEmpty : public NckitParamTest<CalcFailureRow> {};
+
+TEST_P(NckitCalcEmpty, ExpressionWithoutItemsFails) {
+  const ChildResult r = Run({"calc", GetParam().expression});
+  EXPECT_EQ(r.exitCode, 1);
+  EXPECT_EQ(r.out, "");
+  EXPECT_EQ(r.err, GetParam().err);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, NckitCalcEmpty,
+    ::testing::Values(CalcFailureRow{"Empty", "", "nckit calc: empty expression\n"},
+                      CalcFailureRow{"Blanks", "   ", "nckit calc: empty expression\n"},
+                      CalcFailureRow{
+                          "OnlySkippedCharacters", ",;",
+                          "nckit calc: skipped ',' at column 1\nnckit calc: skipped ';' at column 2\n"
+                          "nckit calc: empty expression\n"},
+                      CalcFailureRow{"DollarSign", "$",
+                                     "nckit calc: skipped '$' at column 1\nnckit calc: empty expression\n"}),
+    NckitRowName());
+
+TEST_F(NckitCalc, SkippedCharacterIsNamedAndTheRestIsEvaluated) {
+  const ChildResult r = Run({"calc", "2$+3"});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(r.out, "5\n");
+  EXPECT_EQ(r.err, "nckit calc: skipped '$' at column 2\n");
+}
+
+TEST_F(NckitCalc, SkippedUtf8CharacterIsNamedWholeAndCountsAsOneColumn) {
+  const ChildResult r = Run({"calc",
+                             "\xE2\x82\xAC"
+                             "2+3%"});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(r.out, "5\n");
+  EXPECT_EQ(r.err, "nckit calc: skipped '\xE2\x82\xAC' at column 1\nnckit calc: skipped '%' at column 5\n");
+}
+
+TEST_F(NckitCalc, SkippedControlCharacterIsShownAsItsCode) {
+  const ChildResult r = Run({"calc", "1\x01+1"});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(r.err, "nckit calc: skipped '\\x01' at column 2\n");
+}
+
+TEST_F(NckitCalc, MinusAndALetterIsAnOption) {
+  const ChildResult r = Run({"calc", "-SQRT(4)"});
+  EXPECT_EQ(r.exitCode, 2);
+  EXPECT_EQ(r.err, "nckit calc: unknown option '-SQRT(4)' (try 'nckit calc --help')\n");
+}
+
+TEST_F(NckitCalc, MinusAndALetterAfterDoubleDashIsTheExpression) {
+  const ChildResult r = Run({"calc", "--", "-SQRT(4)"});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(r.out, "-2\n");
 }
 
 TEST_F(NckitCalc, LoneOperatorFails) {
-  const ChildResult r = Calc({"*"});
+  const ChildResult r = Run({"calc", "*"});
   EXPECT_EQ(r.exitCode, 1);
   EXPECT_EQ(r.err, "nckit calc: cannot evaluate the expression\n");
 }
 
-TEST_F(NckitCalc, RefusesAListThatWouldNeverFinish) {
-  for (const char* text : {"2 3", "SQRT 4", "2(3)"}) {
-    SCOPED_TRACE(text);
-    const ChildResult r = Calc({text});
-    EXPECT_FALSE(r.timedOut);
-    EXPECT_EQ(r.exitCode, 1);
-    EXPECT_EQ(r.err,
-              "nckit calc: an operator is missing between two items; the expression would never finish "
-              "evaluating\n");
-  }
+struct EndlessRow {
+  const char* name;
+  const char* expression;
+};
+
+class NckitCalcEndless : public NckitParamTest<EndlessRow> {};
+
+TEST_P(NckitCalcEndless, RefusesAListThatWouldNeverFinish) {
+  const ChildResult r = Run({"calc", GetParam().expression});
+  EXPECT_FALSE(r.timedOut);
+  EXPECT_EQ(r.exitCode, 1);
+  EXPECT_EQ(r.err,
+            "nckit calc: an operator is missing between two items; the expression would never finish "
+            "evaluating\n");
 }
+
+INSTANTIATE_TEST_SUITE_P(Lists, NckitCalcEndless,
+                         ::testing::Values(EndlessRow{"TwoNumbers", "2 3"},
+                                           EndlessRow{"FunctionWithoutBracket", "SQRT 4"},
+                                           EndlessRow{"NumberBeforeABracket", "2(3)"}),
+                         NckitRowName());
 
 TEST_F(NckitCalc, HundredThousandCharacterExpressionIsTooLong) {
 #if defined(_WIN32)
@@ -134,52 +198,59 @@ TEST_F(NckitCalc, HundredThousandCharacterExpressionIsTooLong) {
   while (text.size() < kLength)
     text += "+1";
   text.resize(kLength);
-  const ChildResult r = Calc({text});
+  const ChildResult r = Run({"calc", text});
   EXPECT_FALSE(r.timedOut);
   EXPECT_EQ(r.exitCode, 1);
-  EXPECT_EQ(r.err, "nckit calc: list too long (at most 4096 items)\n");
+  EXPECT_EQ(r.err, "nckit calc: list too long (at most " + std::to_string(CExpressionItemList::kMaxItems) +
+                       " items)\n");
 }
 
 TEST_F(NckitCalc, TenThousandNestedBracketsAreTooLong) {
-  const ChildResult r = Calc({std::string(10000, '(') + "1" + std::string(10000, ')')});
+  const ChildResult r = Run({"calc", std::string(10000, '(') + "1" + std::string(10000, ')')});
   EXPECT_FALSE(r.timedOut);
   EXPECT_EQ(r.exitCode, 1);
-  EXPECT_EQ(r.err, "nckit calc: list too long (at most 4096 items)\n");
+  EXPECT_EQ(r.err, "nckit calc: list too long (at most " + std::to_string(CExpressionItemList::kMaxItems) +
+                       " items)\n");
 }
 
 TEST_F(NckitCalc, MissingExpressionIsAUsageError) {
-  EXPECT_EQ(Calc({}).exitCode, 2);
-  EXPECT_EQ(Calc({"--"}).exitCode, 2);
+  const ChildResult r = Run({"calc"});
+  EXPECT_EQ(r.exitCode, 2);
+  EXPECT_EQ(r.err, "nckit calc: missing expression (try 'nckit calc --help')\n");
+}
+
+TEST_F(NckitCalc, DoubleDashAloneIsAMissingExpression) {
+  EXPECT_EQ(Run({"calc", "--"}).exitCode, 2);
 }
 
 TEST_F(NckitCalc, HelpDescribesTheCommand) {
-  const ChildResult r = Calc({"--help"});
+  const ChildResult r = Run({"calc", "--help"});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_EQ(r.out.rfind("usage: nckit calc", 0), 0u);
 }
 
 TEST_F(NckitCalc, UnknownOptionIsAUsageError) {
-  const ChildResult r = Calc({"--precise", "1+2"});
+  const ChildResult r = Run({"calc", "--precise", "1+2"});
   EXPECT_EQ(r.exitCode, 2);
   EXPECT_EQ(r.out, "");
   EXPECT_EQ(r.err, "nckit calc: unknown option '--precise' (try 'nckit calc --help')\n");
 }
 
 TEST_F(NckitCalc, ShortHelpOptionShowsTheHelp) {
-  const ChildResult r = Calc({"-h"});
+  const ChildResult r = Run({"calc", "-h"});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_EQ(r.out.rfind("usage: nckit calc", 0), 0u);
   EXPECT_EQ(r.err, "");
 }
 
 TEST_F(NckitCalc, HelpAfterTheExpressionShowsTheHelp) {
-  const ChildResult r = Calc({"1+2", "--help"});
+  const ChildResult r = Run({"calc", "1+2", "--help"});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_EQ(r.out.rfind("usage: nckit calc", 0), 0u);
 }
 
 TEST_F(NckitCalc, OptionLikeTextAfterDoubleDashIsTheExpression) {
-  const ChildResult r = Calc({"--", "--precise"});
+  const ChildResult r = Run({"calc", "--", "--precise"});
   EXPECT_EQ(r.exitCode, 1);
   EXPECT_EQ(r.err, "nckit calc: unknown function 'precise'\n");
 }

@@ -5,32 +5,18 @@
 #include <string>
 #include <vector>
 
-#include "support/ChildProcess.h"
+#include "ncappkit/nc/KCC_NcFile.h"
+#include "support/NckitFixture.h"
 #include "support/TempDir.h"
 
 namespace {
 
-const std::string kFanucSample = std::string(NCAPPKIT_SOURCE_DIR) + "/samples/fanuc_programs.nc";
-const std::string kSiemensSample = std::string(NCAPPKIT_SOURCE_DIR) + "/samples/siemens_program.mpf";
-
-ChildResult Info(const std::vector<std::string>& args) {
-  std::vector<std::string> argv = {NCKIT_EXE, "info"};
-  argv.insert(argv.end(), args.begin(), args.end());
-  return RunChild(argv);
-}
-
-class NckitInfo : public ::testing::Test {
- protected:
-  void SetUp() override {
-    if (!CanRunChildren())
-      GTEST_SKIP() << "cannot run programs here";
-  }
-};
+class NckitInfo : public NckitTest {};
 
 }  // namespace
 
 TEST_F(NckitInfo, ListsTheProgramsOfTheFanucSample) {
-  const ChildResult r = Info({kFanucSample});
+  const ChildResult r = Run({"info", FanucSample()});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_EQ(r.err, "");
   EXPECT_NE(r.out.find("structure:  Fanuc\n"), std::string::npos);
@@ -41,23 +27,23 @@ TEST_F(NckitInfo, ListsTheProgramsOfTheFanucSample) {
 }
 
 TEST_F(NckitInfo, FirstBlockMakesTheCallingProgramAMainProgram) {
-  const ChildResult r = Info({kFanucSample, "--first-block"});
+  const ChildResult r = Run({"info", FanucSample(), "--first-block"});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_NE(r.out.find("programs:   3 main, 3 sub\n"), std::string::npos);
   EXPECT_NE(r.out.find("main  0001    JOB"), std::string::npos);
 }
 
 TEST_F(NckitInfo, RecognisesTheSiemensStructure) {
-  const ChildResult r = Info({kSiemensSample, "--first-block"});
+  const ChildResult r = Run({"info", SiemensSample(), "--first-block"});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_NE(r.out.find("structure:  Siemens\n"), std::string::npos);
   EXPECT_NE(r.out.find("programs:   1 main, 1 sub\n"), std::string::npos);
 }
 
 TEST_F(NckitInfo, JsonHoldsEveryProgram) {
-  const ChildResult r = Info({kSiemensSample, "--first-block", "--json"});
+  const ChildResult r = Run({"info", SiemensSample(), "--first-block", "--json"});
   EXPECT_EQ(r.exitCode, 0);
-  EXPECT_EQ(r.out, "{\"file\": \"" + kSiemensSample +
+  EXPECT_EQ(r.out, "{\"file\": \"" + SiemensSample() +
                        "\", \"structure\": \"Siemens\", \"error\": 0, \"result\": \"no error\", "
                        "\"duplicateNumbers\": false, \"programs\": ["
                        "{\"list\": \"main\", \"number\": -1, \"ref\": \"\", \"lines\": 8, \"size\": 116, "
@@ -69,14 +55,15 @@ TEST_F(NckitInfo, JsonHoldsEveryProgram) {
 TEST_F(NckitInfo, KeepUnfinishedShowsTheRestAsSubProgram) {
   TempDir dir;
   const std::string path = dir.WriteFile("p.nc", "O1\nM30\nG0 X0\n");
-  EXPECT_NE(Info({path}).out.find("programs:   1 main, 0 sub\n"), std::string::npos);
-  EXPECT_NE(Info({path, "--keep-unfinished"}).out.find("programs:   1 main, 1 sub\n"), std::string::npos);
+  EXPECT_NE(Run({"info", path}).out.find("programs:   1 main, 0 sub\n"), std::string::npos);
+  EXPECT_NE(Run({"info", path, "--keep-unfinished"}).out.find("programs:   1 main, 1 sub\n"),
+            std::string::npos);
 }
 
 TEST_F(NckitInfo, FlagsDuplicateNumbers) {
   TempDir dir;
   const std::string path = dir.WriteFile("dup.nc", "O5\nM30\nO5\nM99\n");
-  const ChildResult r = Info({path});
+  const ChildResult r = Run({"info", path});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_NE(r.out.find("main  0005         2        5  duplicate number\n"), std::string::npos) << r.out;
   EXPECT_NE(r.out.find("duplicate program numbers: yes\n"), std::string::npos);
@@ -85,18 +72,18 @@ TEST_F(NckitInfo, FlagsDuplicateNumbers) {
 TEST_F(NckitInfo, TooLongLineIsNamedWithTheHint) {
   TempDir dir;
   const std::string path = dir.WriteFile("long.nc", "O1\nG0 X0\n(" + std::string(198, 'C') + ")\nM30\n");
-  const ChildResult r = Info({path});
+  const ChildResult r = Run({"info", path});
   EXPECT_EQ(r.exitCode, 1);
   EXPECT_EQ(r.out, "");
-  EXPECT_EQ(r.err, "nckit info: " + path +
-                       ": too many lines: line 3 has 200 characters, more than the reader's 127; use "
-                       "--no-line-limit to read long lines\n");
+  EXPECT_EQ(r.err, "nckit info: " + path + ": too many lines: line 3 is longer than the reader's " +
+                       std::to_string(KCC_NcFile::kMaxLineLength) +
+                       " characters; use --no-line-limit to read long lines\n");
 }
 
 TEST_F(NckitInfo, NoLineLimitLoadsLongLines) {
   TempDir dir;
   const std::string path = dir.WriteFile("long.nc", "O1\r\n(" + std::string(198, 'C') + ")\r\nM30\r\n");
-  const ChildResult r = Info({path, "--no-line-limit"});
+  const ChildResult r = Run({"info", path, "--no-line-limit"});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_NE(r.out.find("main  0001         3        205\n"), std::string::npos) << r.out;
 }
@@ -104,39 +91,90 @@ TEST_F(NckitInfo, NoLineLimitLoadsLongLines) {
 TEST_F(NckitInfo, FileWithoutProgramEndHasNoNcStructure) {
   TempDir dir;
   const std::string path = dir.WriteFile("x.txt", "hello\nworld\n");
-  const ChildResult r = Info({path});
+  const ChildResult r = Run({"info", path});
   EXPECT_EQ(r.exitCode, 1);
-  EXPECT_EQ(r.err, "nckit info: " + path + ": no NC structure: no program ends with M30, M99 or RET\n");
+  EXPECT_EQ(r.err,
+            "nckit info: " + path +
+                ": no NC structure: no program ends with M30, M99 or RET; --keep-unfinished loads the text "
+                "as a sub-program\n");
 }
+
+TEST_F(NckitInfo, FileWithoutProgramEndNamesTheEndWordsItHas) {
+  TempDir dir;
+  const std::string path = dir.WriteFile("ends.nc", "O1\nG0 X0\nM02\nO2 (M99)\nM17\nm30\nM02\nM300\n");
+  const ChildResult r = Run({"info", path});
+  EXPECT_EQ(r.exitCode, 1);
+  EXPECT_EQ(r.err,
+            "nckit info: " + path +
+                ": no NC structure: no program ends with M30, M99 or RET; the file has M02 (line 3), M17 "
+                "(line 5) and m30 (line 6), which the loader does not take for a program end; "
+                "--keep-unfinished loads the text as a sub-program\n");
+}
+
+TEST_F(NckitInfo, KeepUnfinishedLoadsAFileWithoutProgramEnd) {
+  TempDir dir;
+  const std::string path = dir.WriteFile("ends.nc", "O1\nG0 X0\nM02\n");
+  const ChildResult r = Run({"info", path, "--keep-unfinished"});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_NE(r.out.find("programs:   0 main, 1 sub\n"), std::string::npos) << r.out;
+}
+
+struct ReferenceRow {
+  const char* name;
+  const char* reference;
+  const char* paddedReference;  // as the table shows it: padded to the width of "LONGER" and two blanks
+};
+
+class NckitInfoTable : public NckitParamTest<ReferenceRow> {};
+
+TEST_P(NckitInfoTable, ReferenceColumnIsPaddedByDisplayedCharacters) {
+  TempDir dir;
+  const std::string path = dir.WriteFile(
+      "refs.nc", std::string("O0001 (") + GetParam().reference + ")\nM30\nO0002 (LONGER)\nM30\n");
+  const ChildResult r = Run({"info", path});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_NE(r.out.find(std::string("main  0001    ") + GetParam().paddedReference + "2        "),
+            std::string::npos)
+      << r.out;
+  EXPECT_NE(r.out.find("main  0002    LONGER  2        "), std::string::npos) << r.out;
+}
+
+INSTANTIATE_TEST_SUITE_P(References, NckitInfoTable,
+                         ::testing::Values(ReferenceRow{"Ascii", "CAFE", "CAFE    "},
+                                           ReferenceRow{"TwoByteUtf8", "CAF\xC3\x89", "CAF\xC3\x89    "},
+                                           ReferenceRow{"FourByteUtf8", "\xF0\x9F\x98\x80 OK",
+                                                        "\xF0\x9F\x98\x80 OK    "},
+                                           ReferenceRow{"Latin1ByteCountsAsOne", "CAF\xC9", "CAF\xC9    "}),
+                         NckitRowName());
 
 TEST_F(NckitInfo, MissingFileIsAUsageError) {
   TempDir dir;
-  const ChildResult r = Info({dir.Path("none.nc")});
+  const ChildResult r = Run({"info", dir.Path("none.nc")});
   EXPECT_EQ(r.exitCode, 2);
   EXPECT_EQ(r.err, "nckit info: " + dir.Path("none.nc") + ": no such file\n");
 }
 
 TEST_F(NckitInfo, DirectoryIsAUsageError) {
   TempDir dir;
-  const ChildResult r = Info({dir.Path()});
+  const ChildResult r = Run({"info", dir.Path()});
   EXPECT_EQ(r.exitCode, 2);
   EXPECT_EQ(r.err, "nckit info: " + dir.Path() + ": is a directory, not an NC file\n");
 }
 
 TEST_F(NckitInfo, UnknownOptionIsAUsageError) {
-  const ChildResult r = Info({kFanucSample, "--fast"});
+  const ChildResult r = Run({"info", FanucSample(), "--fast"});
   EXPECT_EQ(r.exitCode, 2);
   EXPECT_EQ(r.err, "nckit info: unknown option '--fast' (try 'nckit info --help')\n");
 }
 
 TEST_F(NckitInfo, MissingFileArgumentIsAUsageError) {
-  const ChildResult r = Info({});
+  const ChildResult r = Run({"info"});
   EXPECT_EQ(r.exitCode, 2);
   EXPECT_EQ(r.err, "nckit info: expects exactly one FILE (try 'nckit info --help')\n");
 }
 
 TEST_F(NckitInfo, HelpDescribesTheOptions) {
-  const ChildResult r = Info({"--help"});
+  const ChildResult r = Run({"info", "--help"});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_EQ(r.out.rfind("usage: nckit info FILE", 0), 0u);
   EXPECT_NE(r.out.find("--no-line-limit"), std::string::npos);
@@ -149,7 +187,7 @@ TEST_F(NckitInfo, BinaryGarbageGivesALoadErrorNotACrash) {
   for (int i = 0; i < 5000; ++i)
     bytes += static_cast<char>((i * 7919) & 0xFF);
   const std::string path = dir.WriteFile("garbage.bin", bytes);
-  const ChildResult r = Info({path});
+  const ChildResult r = Run({"info", path});
   EXPECT_EQ(r.exitCode, 1);
   EXPECT_NE(r.err.find("too many lines"), std::string::npos);
 }
@@ -157,7 +195,7 @@ TEST_F(NckitInfo, BinaryGarbageGivesALoadErrorNotACrash) {
 TEST_F(NckitInfo, JsonKeepsUtf8CharactersOfAReference) {
   TempDir dir;
   const std::string path = dir.WriteFile("utf8.nc", "O0001 (CAF\xC3\x89 \xF0\x9F\x98\x80)\nM30\n");
-  const ChildResult r = Info({path, "--json"});
+  const ChildResult r = Run({"info", path, "--json"});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_NE(r.out.find("\"ref\": \"CAF\\u00c9 \\ud83d\\ude00\""), std::string::npos) << r.out;
 }
@@ -165,7 +203,7 @@ TEST_F(NckitInfo, JsonKeepsUtf8CharactersOfAReference) {
 TEST_F(NckitInfo, JsonTakesBytesThatAreNoUtf8AsLatin1) {
   TempDir dir;
   const std::string path = dir.WriteFile("latin1.nc", "O0001 (CAF\xC9)\nM30\n");
-  const ChildResult r = Info({path, "--json"});
+  const ChildResult r = Run({"info", path, "--json"});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_NE(r.out.find("\"ref\": \"CAF\\u00c9\""), std::string::npos) << r.out;
 }
@@ -174,8 +212,8 @@ TEST_F(NckitInfo, NoLineLimitEndsALineAtItsFirstNulLikeTheReader) {
   TempDir dir;
   // Not "nul.nc": that name is the null device on Windows.
   const std::string path = dir.WriteFile("zero-byte.nc", std::string("O0001\nG00 X0\0Y1\r\nM30\n", 21));
-  const ChildResult limited = Info({path});
-  const ChildResult unlimited = Info({path, "--no-line-limit"});
+  const ChildResult limited = Run({"info", path});
+  const ChildResult unlimited = Run({"info", path, "--no-line-limit"});
   EXPECT_EQ(limited.exitCode, 0);
   EXPECT_NE(limited.out.find("main  0001         3        14\n"), std::string::npos) << limited.out;
   EXPECT_EQ(unlimited.exitCode, 0);

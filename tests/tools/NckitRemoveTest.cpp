@@ -5,25 +5,13 @@
 #include <string>
 #include <vector>
 
-#include "support/ChildProcess.h"
+#include "support/NckitFixture.h"
 #include "support/PlatformText.h"
 #include "support/TempDir.h"
 
 namespace {
 
-ChildResult Remove(const std::vector<std::string>& args) {
-  std::vector<std::string> argv = {NCKIT_EXE, "remove"};
-  argv.insert(argv.end(), args.begin(), args.end());
-  return RunChild(argv);
-}
-
-class NckitRemove : public ::testing::Test {
- protected:
-  void SetUp() override {
-    if (!CanRunChildren())
-      GTEST_SKIP() << "cannot run programs here";
-  }
-};
+class NckitRemove : public NckitTest {};
 
 const char* const kThree = "%\nO1\nM30\nO8000\nM99\nO2\nM30\n%\n";
 
@@ -32,7 +20,7 @@ const char* const kThree = "%\nO1\nM30\nO8000\nM99\nO2\nM30\n%\n";
 TEST_F(NckitRemove, WritesAllButTheChosenPrograms) {
   TempDir dir;
   const std::string input = dir.WriteFile("in.nc", kThree);
-  const ChildResult r = Remove({input, "8000", "-o", dir.Path("out.nc")});
+  const ChildResult r = Run({"remove", input, "8000", "-o", dir.Path("out.nc")});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_EQ(r.out, "removed 1 program, wrote " + dir.Path("out.nc") + "\n");
   EXPECT_EQ(dir.ReadFile("out.nc"), PlatformText("%\nO1\nM30\nO2\nM30\n%\n"));
@@ -42,21 +30,21 @@ TEST_F(NckitRemove, WritesAllButTheChosenPrograms) {
 TEST_F(NckitRemove, RemovesEveryProgramWithTheNumber) {
   TempDir dir;
   const std::string input = dir.WriteFile("in.nc", "O1\nM30\nO1\nM99\nO2\nM30\n");
-  EXPECT_EQ(Remove({input, "O1", "-o", dir.Path("out.nc")}).exitCode, 0);
+  EXPECT_EQ(Run({"remove", input, "O1", "-o", dir.Path("out.nc")}).exitCode, 0);
   EXPECT_EQ(dir.ReadFile("out.nc"), PlatformText("%\nO2\nM30\n%\n"));
 }
 
 TEST_F(NckitRemove, InputIsReplacedOnlyWhenNamedAsOutput) {
   TempDir dir;
   const std::string input = dir.WriteFile("in.nc", kThree);
-  EXPECT_EQ(Remove({input, "1", "-o", input}).exitCode, 0);
+  EXPECT_EQ(Run({"remove", input, "1", "-o", input}).exitCode, 0);
   EXPECT_EQ(dir.ReadFile("in.nc"), PlatformText("%\nO2\nM30\nO8000\nM99\n%\n"));
 }
 
 TEST_F(NckitRemove, OutputIsRequired) {
   TempDir dir;
   const std::string input = dir.WriteFile("in.nc", kThree);
-  const ChildResult r = Remove({input, "1"});
+  const ChildResult r = Run({"remove", input, "1"});
   EXPECT_EQ(r.exitCode, 2);
   EXPECT_EQ(r.err, "nckit remove: needs -o OUT (try 'nckit remove --help')\n");
   EXPECT_EQ(dir.ReadFile("in.nc"), kThree);
@@ -65,7 +53,7 @@ TEST_F(NckitRemove, OutputIsRequired) {
 TEST_F(NckitRemove, UnknownNumberIsAProblemAndNothingIsWritten) {
   TempDir dir;
   const std::string input = dir.WriteFile("in.nc", kThree);
-  const ChildResult r = Remove({input, "9", "-o", dir.Path("out.nc")});
+  const ChildResult r = Run({"remove", input, "9", "-o", dir.Path("out.nc")});
   EXPECT_EQ(r.exitCode, 1);
   EXPECT_EQ(r.err, "nckit remove: " + input + ": no program 0009\n");
   EXPECT_FALSE(dir.Exists("out.nc"));
@@ -74,17 +62,17 @@ TEST_F(NckitRemove, UnknownNumberIsAProblemAndNothingIsWritten) {
 TEST_F(NckitRemove, UnwritableOutputIsAProblem) {
   TempDir dir;
   const std::string input = dir.WriteFile("in.nc", kThree);
-  const ChildResult r = Remove({input, "1", "-o", dir.Path("no/such/dir/out.nc")});
+  const ChildResult r = Run({"remove", input, "1", "-o", dir.Path("no/such/dir/out.nc")});
   EXPECT_EQ(r.exitCode, 1);
   EXPECT_NE(r.err.find("cannot write"), std::string::npos);
 }
 
 TEST_F(NckitRemove, UnknownOptionIsAUsageError) {
-  EXPECT_EQ(Remove({"in.nc", "1", "--dry-run"}).exitCode, 2);
+  EXPECT_EQ(Run({"remove", "in.nc", "1", "--dry-run"}).exitCode, 2);
 }
 
 TEST_F(NckitRemove, HelpExitsZero) {
-  const ChildResult r = Remove({"--help"});
+  const ChildResult r = Run({"remove", "--help"});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_EQ(r.out.rfind("usage: nckit remove FILE NUMBER... -o OUT", 0), 0u);
 }
@@ -92,7 +80,7 @@ TEST_F(NckitRemove, HelpExitsZero) {
 TEST_F(NckitRemove, DirectoryAsOutputIsAUsageError) {
   TempDir dir;
   const std::string input = dir.WriteFile("in.nc", "O1\nM30\nO2\nM30\n");
-  const ChildResult r = Remove({input, "1", "-o", dir.Path()});
+  const ChildResult r = Run({"remove", input, "1", "-o", dir.Path()});
   EXPECT_EQ(r.exitCode, 2);
   EXPECT_EQ(r.err, "nckit remove: " + dir.Path() + ": is a directory; -o names the file to write\n");
 }

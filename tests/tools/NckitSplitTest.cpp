@@ -3,41 +3,30 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <set>
 #include <string>
 #include <vector>
 
-#include "support/ChildProcess.h"
+#include "support/NckitFixture.h"
 #include "support/PlatformText.h"
 #include "support/TempDir.h"
 
 namespace {
 
-const std::string kFanucSample = std::string(NCAPPKIT_SOURCE_DIR) + "/samples/fanuc_programs.nc";
-
-ChildResult Split(const std::vector<std::string>& args) {
-  std::vector<std::string> argv = {NCKIT_EXE, "split"};
-  argv.insert(argv.end(), args.begin(), args.end());
-  return RunChild(argv);
-}
-
-class NckitSplit : public ::testing::Test {
- protected:
-  void SetUp() override {
-    if (!CanRunChildren())
-      GTEST_SKIP() << "cannot run programs here";
-  }
-};
+class NckitSplit : public NckitTest {};
 
 }  // namespace
 
 TEST_F(NckitSplit, WritesOneFilePerProgramWithPercentLines) {
   TempDir dir;
-  const ChildResult r = Split({kFanucSample, "-o", dir.Path("parts")});
+  const ChildResult r = Run({"split", FanucSample(), "-o", dir.Path("parts")});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_EQ(r.err, "");
-  for (const char* name : {"O0001.nc", "O1000.nc", "O2000.nc", "O8010.nc", "O8020.nc", "O8030.nc"}) {
-    EXPECT_TRUE(dir.Exists(std::string("parts/") + name)) << name;
-  }
+  std::set<std::string> written;
+  for (const auto& entry : std::filesystem::directory_iterator(dir.Path("parts")))
+    written.insert(entry.path().filename().string());
+  EXPECT_EQ(written,
+            (std::set<std::string>{"O0001.nc", "O1000.nc", "O2000.nc", "O8010.nc", "O8020.nc", "O8030.nc"}));
   EXPECT_EQ(dir.ReadFile("parts/O8010.nc"),
             PlatformText("%\nO8010 (SETUP)\nN10 G21 G90 G17 G54\nN20 G28 G91 Z0\nN30 M99\n%\n"));
 }
@@ -45,7 +34,7 @@ TEST_F(NckitSplit, WritesOneFilePerProgramWithPercentLines) {
 TEST_F(NckitSplit, RefusesToOverwriteWithoutForce) {
   TempDir dir;
   dir.WriteFile("parts/O8010.nc", "mine");
-  const ChildResult r = Split({kFanucSample, "-o", dir.Path("parts")});
+  const ChildResult r = Run({"split", FanucSample(), "-o", dir.Path("parts")});
   EXPECT_EQ(r.exitCode, 1);
   const std::string target = (std::filesystem::path(dir.Path("parts")) / "O8010.nc").string();
   EXPECT_EQ(r.err, "nckit split: " + target + " exists; use --force to replace it\n");
@@ -56,14 +45,14 @@ TEST_F(NckitSplit, RefusesToOverwriteWithoutForce) {
 TEST_F(NckitSplit, ForceReplacesExistingFiles) {
   TempDir dir;
   dir.WriteFile("parts/O8010.nc", "mine");
-  EXPECT_EQ(Split({kFanucSample, "-o", dir.Path("parts"), "--force"}).exitCode, 0);
+  EXPECT_EQ(Run({"split", FanucSample(), "-o", dir.Path("parts"), "--force"}).exitCode, 0);
   EXPECT_EQ(dir.ReadFile("parts/O8010.nc").rfind(PlatformText("%\nO8010 (SETUP)\n"), 0), 0u);
 }
 
 TEST_F(NckitSplit, NeverWritesOverTheInputFile) {
   TempDir dir;
   const std::string input = dir.WriteFile("O0005.nc", "O5\nG0 X1\nM30\nO6\nM30\n");
-  const ChildResult r = Split({input, "-o", dir.Path(), "--force"});
+  const ChildResult r = Run({"split", input, "-o", dir.Path(), "--force"});
   EXPECT_EQ(r.exitCode, 1);
   EXPECT_NE(r.err.find("is the input file"), std::string::npos);
   EXPECT_EQ(dir.ReadFile("O0005.nc"), "O5\nG0 X1\nM30\nO6\nM30\n");
@@ -72,7 +61,7 @@ TEST_F(NckitSplit, NeverWritesOverTheInputFile) {
 TEST_F(NckitSplit, DuplicateAndMissingNumbersGetTheirOwnNames) {
   TempDir dir;
   const std::string input = dir.WriteFile("in.nc", "O5\nM30\nO5\nM30\nG0 X0\nM30\n");
-  EXPECT_EQ(Split({input, "-o", dir.Path("out")}).exitCode, 0);
+  EXPECT_EQ(Run({"split", input, "-o", dir.Path("out")}).exitCode, 0);
   EXPECT_EQ(dir.ReadFile("out/O0005.nc"), PlatformText("%\nO5\nM30\n%\n"));
   EXPECT_TRUE(dir.Exists("out/O0005_2.nc"));
   EXPECT_EQ(dir.ReadFile("out/unnumbered_1.nc"), PlatformText("%\nG0 X0\nM30\n%\n"));
@@ -81,32 +70,32 @@ TEST_F(NckitSplit, DuplicateAndMissingNumbersGetTheirOwnNames) {
 TEST_F(NckitSplit, OutputThatIsAFileIsAUsageError) {
   TempDir dir;
   const std::string file = dir.WriteFile("plain", "x");
-  EXPECT_EQ(Split({kFanucSample, "-o", file}).exitCode, 2);
+  EXPECT_EQ(Run({"split", FanucSample(), "-o", file}).exitCode, 2);
 }
 
 TEST_F(NckitSplit, MissingOutputOptionIsAUsageError) {
-  const ChildResult r = Split({kFanucSample});
+  const ChildResult r = Run({"split", FanucSample()});
   EXPECT_EQ(r.exitCode, 2);
   EXPECT_EQ(r.err, "nckit split: needs -o DIR (try 'nckit split --help')\n");
 }
 
 TEST_F(NckitSplit, MissingInputIsAUsageError) {
   TempDir dir;
-  EXPECT_EQ(Split({dir.Path("none.nc"), "-o", dir.Path("out")}).exitCode, 2);
+  EXPECT_EQ(Run({"split", dir.Path("none.nc"), "-o", dir.Path("out")}).exitCode, 2);
   EXPECT_FALSE(dir.Exists("out"));
 }
 
 TEST_F(NckitSplit, LoadErrorWritesNothing) {
   TempDir dir;
   const std::string input = dir.WriteFile("x.nc", "no end here\n");
-  const ChildResult r = Split({input, "-o", dir.Path("out")});
+  const ChildResult r = Run({"split", input, "-o", dir.Path("out")});
   EXPECT_EQ(r.exitCode, 1);
   EXPECT_NE(r.err.find("no NC structure"), std::string::npos);
   EXPECT_FALSE(dir.Exists("out"));
 }
 
 TEST_F(NckitSplit, HelpExitsZero) {
-  const ChildResult r = Split({"--help"});
+  const ChildResult r = Run({"split", "--help"});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_EQ(r.out.rfind("usage: nckit split FILE -o DIR", 0), 0u);
 }
@@ -114,7 +103,7 @@ TEST_F(NckitSplit, HelpExitsZero) {
 TEST_F(NckitSplit, TargetThatIsADirectoryStopsTheSplitBeforeAnyWrite) {
   TempDir dir;
   dir.WriteFile("parts/O2000.nc/keep.txt", "mine");
-  const ChildResult r = Split({kFanucSample, "-o", dir.Path("parts"), "--force"});
+  const ChildResult r = Run({"split", FanucSample(), "-o", dir.Path("parts"), "--force"});
   EXPECT_EQ(r.exitCode, 1);
   const std::string target = (std::filesystem::path(dir.Path("parts")) / "O2000.nc").string();
   EXPECT_EQ(r.err, "nckit split: " + target + " is a directory; remove it or choose another directory\n");

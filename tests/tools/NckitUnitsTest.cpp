@@ -5,131 +5,162 @@
 #include <string>
 #include <vector>
 
-#include "support/ChildProcess.h"
+#include "support/NckitFixture.h"
 
 namespace {
 
-ChildResult Units(const std::vector<std::string>& args) {
-  std::vector<std::string> argv = {NCKIT_EXE, "units"};
-  argv.insert(argv.end(), args.begin(), args.end());
-  return RunChild(argv);
-}
-
-class NckitUnits : public ::testing::Test {
- protected:
-  void SetUp() override {
-    if (!CanRunChildren())
-      GTEST_SKIP() << "cannot run programs here";
-  }
-};
+class NckitUnits : public NckitTest {};
 
 }  // namespace
 
 TEST_F(NckitUnits, ConvertsMmToInchAsAnAxisPosition) {
-  const ChildResult r = Units({"25.4", "--from", "mm", "--to", "inch"});
+  const ChildResult r = Run({"units", "25.4", "--from", "mm", "--to", "inch"});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_EQ(r.out, "1.0000\n");
   EXPECT_EQ(r.err, "");
 }
 
 TEST_F(NckitUnits, ConvertsInchToMm) {
-  EXPECT_EQ(Units({"1", "--from", "inch", "--to", "mm"}).out, "25.400\n");
-  EXPECT_EQ(Units({"2", "--from", "inch", "--to", "mm", "--quantity", "dimension"}).out, "50.8\n");
+  EXPECT_EQ(Run({"units", "1", "--from", "inch", "--to", "mm"}).out, "25.400\n");
+  EXPECT_EQ(Run({"units", "2", "--from", "inch", "--to", "mm", "--quantity", "dimension"}).out, "50.8\n");
 }
 
 TEST_F(NckitUnits, RoundsHalfAwayFromZero) {
-  EXPECT_EQ(Units({"1.23456", "--from", "mm", "--to", "mm"}).out, "1.235\n");
-  EXPECT_EQ(Units({"-1.23456", "--from", "mm", "--to", "mm"}).out, "-1.235\n");
+  EXPECT_EQ(Run({"units", "1.23456", "--from", "mm", "--to", "mm"}).out, "1.235\n");
+  EXPECT_EQ(Run({"units", "-1.23456", "--from", "mm", "--to", "mm"}).out, "-1.235\n");
 }
 
 TEST_F(NckitUnits, NegativeMmToInchKeepsTheLibrarysTruncation) {
-  EXPECT_EQ(Units({"-25.4", "--from", "mm", "--to", "inch"}).out, "-0.9999\n");
+  EXPECT_EQ(Run({"units", "-25.4", "--from", "mm", "--to", "inch"}).out, "-0.9999\n");
 }
 
 TEST_F(NckitUnits, QuantitiesUseTheirDigits) {
-  EXPECT_EQ(Units({"1.23456", "--from", "mm", "--to", "mm", "--quantity", "thickness"}).out, "1.23\n");
-  EXPECT_EQ(Units({"1.23456", "--from", "inch", "--to", "inch", "--quantity", "thickness"}).out, "1.2346\n");
-  EXPECT_EQ(Units({"7.85", "--from", "mm", "--to", "mm", "--quantity", "specweight"}).out, "7.9\n");
+  EXPECT_EQ(Run({"units", "1.23456", "--from", "mm", "--to", "mm", "--quantity", "thickness"}).out, "1.23\n");
+  EXPECT_EQ(Run({"units", "1.23456", "--from", "inch", "--to", "inch", "--quantity", "thickness"}).out,
+            "1.2346\n");
+  EXPECT_EQ(Run({"units", "7.85", "--from", "mm", "--to", "mm", "--quantity", "specweight"}).out, "7.9\n");
 }
 
 TEST_F(NckitUnits, WeightsAreNotConvertedButRounded) {
-  EXPECT_EQ(Units({"12.5", "--from", "mm", "--to", "inch", "--quantity", "weight"}).out, "13\n");
-  EXPECT_EQ(Units({"12.34", "--from", "inch", "--to", "mm", "--quantity=weight"}).out, "12.3\n");
+  EXPECT_EQ(Run({"units", "12.5", "--from", "mm", "--to", "inch", "--quantity", "weight"}).out, "13\n");
+  EXPECT_EQ(Run({"units", "12.34", "--from", "inch", "--to", "mm", "--quantity=weight"}).out, "12.3\n");
 }
 
 TEST_F(NckitUnits, OptionsTakeTheEqualsForm) {
-  EXPECT_EQ(Units({"--from=mm", "--to=inch", "50.8"}).out, "2.0000\n");
+  EXPECT_EQ(Run({"units", "--from=mm", "--to=inch", "50.8"}).out, "2.0000\n");
 }
 
-TEST_F(NckitUnits, BadInputIsAUsageError) {
-  const std::vector<std::vector<std::string>> cases = {
-      {"abc", "--from", "mm", "--to", "inch"},
-      {"1", "--from", "cm", "--to", "inch"},
-      {"1", "--from", "mm", "--to", "inch", "--quantity", "volume"},
-      {"1", "--from", "mm"},
-      {"--from", "mm", "--to", "mm"},
-      {"1", "2", "--from", "mm", "--to", "mm"},
-      {"1", "--from", "mm", "--to"},
-      {"1", "--from", "mm", "--to", "mm", "--speed", "3"},
-  };
-  for (const auto& args : cases) {
-    SCOPED_TRACE(args.front());
-    const ChildResult r = Units(args);
-    EXPECT_EQ(r.exitCode, 2);
-    EXPECT_EQ(r.out, "");
-    EXPECT_EQ(r.err.rfind("nckit units: ", 0), 0u) << r.err;
-  }
+struct BadInputRow {
+  const char* name;
+  std::vector<std::string> args;
+  const char* err;
+};
+
+class NckitUnitsBadInput : public NckitParamTest<BadInputRow> {};
+
+TEST_P(NckitUnitsBadInput, IsAUsageErrorThatSaysWhy) {
+  std::vector<std::string> args = {"units"};
+  args.insert(args.end(), GetParam().args.begin(), GetParam().args.end());
+  const ChildResult r = Run(args);
+  EXPECT_EQ(r.exitCode, 2);
+  EXPECT_EQ(r.out, "");
+  EXPECT_EQ(r.err, std::string("nckit units: ") + GetParam().err + " (try 'nckit units --help')\n");
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    CommandLines, NckitUnitsBadInput,
+    ::testing::Values(
+        BadInputRow{"NotANumber", {"abc", "--from", "mm", "--to", "inch"}, "not a number: 'abc'"},
+        BadInputRow{"UnknownUnit", {"1", "--from", "cm", "--to", "inch"}, "unknown unit 'cm' (mm or inch)"},
+        BadInputRow{"UnknownQuantity",
+                    {"1", "--from", "mm", "--to", "inch", "--quantity", "volume"},
+                    "unknown quantity 'volume'"},
+        BadInputRow{"MissingTo", {"1", "--from", "mm"}, "missing --to"},
+        BadInputRow{"MissingValue", {"--from", "mm", "--to", "mm"}, "missing value"},
+        BadInputRow{"TwoValues", {"1", "2", "--from", "mm", "--to", "mm"}, "more than one value: '2'"},
+        BadInputRow{"OptionWithoutItsValue", {"1", "--from", "mm", "--to"}, "option '--to' needs a value"},
+        BadInputRow{"UnknownOptionWithAValue",
+                    {"1", "--from", "mm", "--to", "mm", "--speed", "3"},
+                    "unknown option '--speed'"}),
+    NckitRowName());
 
 TEST_F(NckitUnits, UnknownOptionIsNamedAsSuch) {
-  const ChildResult r = Units({"--precision"});
+  const ChildResult r = Run({"units", "--precision"});
   EXPECT_EQ(r.exitCode, 2);
   EXPECT_EQ(r.err, "nckit units: unknown option '--precision' (try 'nckit units --help')\n");
 }
 
 TEST_F(NckitUnits, ShortHelpOptionShowsTheHelp) {
-  const ChildResult r = Units({"-h"});
+  const ChildResult r = Run({"units", "-h"});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_EQ(r.out.rfind("usage: nckit units", 0), 0u);
   EXPECT_EQ(r.err, "");
 }
 
 TEST_F(NckitUnits, NegativeValueAfterDoubleDash) {
-  const ChildResult r = Units({"--from", "mm", "--to", "inch", "--", "-25.4"});
+  const ChildResult r = Run({"units", "--from", "mm", "--to", "inch", "--", "-25.4"});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_EQ(r.out, "-0.9999\n");
 }
 
 TEST_F(NckitUnits, ValueBeyondTheDoubleRangeIsRefused) {
-  const ChildResult r = Units({"1e400", "--from", "mm", "--to", "mm"});
+  const ChildResult r = Run({"units", "1e400", "--from", "mm", "--to", "mm"});
   EXPECT_EQ(r.exitCode, 2);
   EXPECT_EQ(r.out, "");
   EXPECT_EQ(r.err, "nckit units: value '1e400' is out of range\n");
 }
 
 TEST_F(NckitUnits, ValueThatOverflowsInTheConversionIsRefused) {
-  const ChildResult r = Units({"1e308", "--from", "inch", "--to", "mm"});
+  const ChildResult r = Run({"units", "1e308", "--from", "inch", "--to", "mm"});
   EXPECT_EQ(r.exitCode, 2);
   EXPECT_EQ(r.out, "");
   EXPECT_EQ(r.err, "nckit units: value '1e308' is out of range: at most 2147483.647 mm after conversion\n");
 }
 
 TEST_F(NckitUnits, LargestAxisPositionInMmIsConverted) {
-  const ChildResult r = Units({"-2147483.647", "--from", "mm", "--to", "mm"});
+  const ChildResult r = Run({"units", "-2147483.647", "--from", "mm", "--to", "mm"});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_EQ(r.out, "-2147483.647\n");
 }
 
 TEST_F(NckitUnits, ValueBeyondTheRoundingRangeIsRefused) {
-  const ChildResult r = Units({"1e305", "--from", "mm", "--to", "mm"});
+  const ChildResult r = Run({"units", "1e305", "--from", "mm", "--to", "mm"});
   EXPECT_EQ(r.exitCode, 2);
   EXPECT_EQ(r.out, "");
   EXPECT_EQ(r.err, "nckit units: value '1e305' is out of range: at most 2147483.647 mm after conversion\n");
 }
 
 TEST_F(NckitUnits, RangeOfAnInchDimensionFollowsTheConversionSteps) {
-  const ChildResult r = Units({"6000000", "--from", "mm", "--to", "inch", "--quantity", "dimension"});
+  const ChildResult r = Run({"units", "6000000", "--from", "mm", "--to", "inch", "--quantity", "dimension"});
   EXPECT_EQ(r.exitCode, 2);
   EXPECT_EQ(r.err,
             "nckit units: value '6000000' is out of range: at most 214748.3647 inch after conversion\n");
+}
+
+TEST_F(NckitUnits, NegativeValueBeforeTheOptions) {
+  const ChildResult r = Run({"units", "-5", "--from", "mm", "--to", "inch"});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(r.out, "-0.1968\n");
+}
+
+TEST_F(NckitUnits, NegativeValueStartingWithAPoint) {
+  const ChildResult r = Run({"units", "-.5", "--from", "inch", "--to", "mm"});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(r.out, "-12.700\n");
+}
+
+TEST_F(NckitUnits, ValueThatRoundsToZeroHasNoMinus) {
+  const ChildResult r = Run({"units", "-0.0001", "--from", "mm", "--to", "mm"});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(r.out, "0.000\n");
+}
+
+TEST_F(NckitUnits, ConvertedValueThatRoundsToZeroHasNoMinus) {
+  const ChildResult r = Run({"units", "-0.00001", "--from", "inch", "--to", "mm", "--quantity", "dimension"});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(r.out.find('-'), std::string::npos) << r.out;
+}
+
+TEST_F(NckitUnits, LaterOptionReplacesAnEarlierOne) {
+  EXPECT_EQ(Run({"units", "1", "--from", "mm", "--from", "inch", "--to", "mm"}).out, "25.400\n");
 }

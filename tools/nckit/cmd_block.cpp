@@ -7,25 +7,12 @@
 #include <string>
 #include <vector>
 
-#include "NcLoadCommon.h"
 #include "NckitCommand.h"
+#include "NckitCommandLine.h"
+#include "NckitJson.h"
 #include "ncappkit/nc/KCC_ParseNc.h"
 
 namespace {
-
-constexpr const char* kCommand = "block";
-
-void PrintHelp(std::ostream& out) {
-  out << "usage: nckit block 'BLOCK' [--json]\n"
-         "Decodes one NC block and writes its words, one per line, in the parser's address order:\n"
-         "A B C D E F G G(2nd) I J K L M M(2nd) N P S R T V X Y. The first G and M of a block are the\n"
-         "primary words; every later G or M accumulates into the (2nd) word (G90 G01 G02: 102), as does a\n"
-         "repeated letter (X10 X20: 1020). Letters with a real value show it with its fraction; the others\n"
-         "show the integer. V is shown only when the block holds both X and V (the parser pairs them).\n"
-         "Exit code 1 when the block is malformed (a second '-' or '.' in a word, or under 2 characters).\n\n"
-         "options:\n"
-         "  --json             write {\"complete\": bool, \"words\": [{\"address\": ..., \"value\": ...}]}\n";
-}
 
 struct Word {
   std::string address;
@@ -100,28 +87,32 @@ std::string JsonNumber(const std::string& text) {
 }
 
 int RunBlock(const NckitArgs& args, std::ostream& out, std::ostream& err) {
-  NcCommandLine cl;
-  if (int rc = ParseNcCommandLine(kCommand, args, {"--json"}, {}, cl, err); rc >= 0)
-    return rc;
-  if (cl.help) {
-    PrintHelp(out);
-    return kNckitOk;
-  }
-  // The shared parser also accepts the file-loading options; a block is no file, so they are unknown here.
-  for (const std::string& flag : cl.flags) {
-    if (flag != "--json")
-      return NcUsageError(kCommand, "unknown option '" + flag + "'", err);
-  }
-  if (cl.positionals.empty())
-    return NcUsageError(kCommand, "expects a BLOCK", err);
+  std::vector<std::string> parts;
+  bool json = false;
+  NckitCommandLine cl(
+      "block", "nckit block 'BLOCK' [--json]",
+      "Decodes one NC block and writes its words, one per line, in the parser's address order:\n"
+      "A B C D E F G G(2nd) I J K L M M(2nd) N P S R T V X Y. The first G and M of a block are "
+      "the\nprimary words; every later G or M accumulates into the (2nd) word (G90 G01 G02: 102), "
+      "as does a\nrepeated letter (X10 X20: 1020). Letters with a real value show it with its "
+      "fraction; the others\nshow the integer. V is shown only when the block holds both X and V "
+      "(the parser pairs them).\nSeveral arguments are joined with blanks into one block.\n"
+      "Exit code 1 when the block is malformed (a second '-' or '.' in a word, or under 2 "
+      "characters).\n");
+  cl.Operands("BLOCK", parts);
+  cl.Flag("--json", json, "write {\"complete\": bool, \"words\": [{\"address\": ..., \"value\": ...}]}");
+  if (const auto stop = cl.Parse(args, out, err))
+    return *stop;
+  if (parts.empty())
+    return cl.UsageError("expects a BLOCK", err);
   std::string block;
-  for (const std::string& part : cl.positionals)
+  for (const std::string& part : parts)
     block += (block.empty() ? "" : " ") + part;
 
   KCC_ParseNc parser;
   const bool complete = parser.DecodeISOLine(block);
   const std::vector<Word> words = DecodedWords(parser, block);
-  if (cl.Has("--json")) {
+  if (json) {
     out << "{\"block\": " << JsonString(block) << ", \"complete\": " << (complete ? "true" : "false")
         << ", \"words\": [";
     for (std::size_t k = 0; k < words.size(); ++k) {

@@ -11,8 +11,11 @@
 #include <ostream>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "NckitCommand.h"
+#include "NckitCommandLine.h"
+#include "NckitUtf8.h"
 #include "ncappkit/foundation/KCC_MessageReporter.h"
 #include "ncappkit/foundation/KCString.h"
 #include "ncappkit/mathexpr/KCC_MathExpression.h"
@@ -60,43 +63,66 @@ std::string FirstUnknownName(const std::string& text) {
   return std::string();
 }
 
-void PrintHelp(std::ostream& out) {
-  out << "usage: nckit calc [--] EXPRESSION...\n"
-         "       nckit calc --help | -h\n"
-         "Evaluates EXPRESSION (several arguments are joined with blanks) and prints its value.\n"
-         "Numbers, * / + -, round or square brackets and SQRT, SIN, COS, TAN (radians, before a bracket).\n"
-         "Operators go by a fixed priority of the characters: all '*', then '/', then '+', then '-'.\n"
-         "An expression may start with '-'; '--' ends the options.\n";
+bool IsBlank(char c) {
+  return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\v' || c == '\f';
+}
+
+// True when the evaluator's tokenizer makes an item of `c` on its own: an operator, a bracket, a digit or a
+// point. The evaluator is asked with the character alone, so this follows its tokenizer without a copy of it.
+bool TokenizerTakes(char c) {
+  LastMessageReporter quiet;
+  KCC_MathExpression probe(quiet);
+  return probe.ParseMathExpression(KCString(std::string(1, c)));
+}
+
+// The character at text[i] (a whole UTF-8 character) as shown in a message: control bytes as \xNN.
+std::string ShownCharacter(const std::string& text, std::size_t i, std::size_t length) {
+  const auto byte = static_cast<unsigned char>(text[i]);
+  if (length == 1 && (byte < 0x20 || byte == 0x7F)) {
+    static const char kHex[] = "0123456789abcdef";
+    return std::string("\\x") + kHex[byte >> 4] + kHex[byte & 0xF];
+  }
+  return text.substr(i, length);
+}
+
+// One line on `err` for each character the evaluator skips without a word: not a blank (blanks separate
+// items), not a letter (letters make function names, and an unknown name is reported as such) and nothing
+// the tokenizer takes. Columns count characters from 1, UTF-8 characters as one.
+void ReportSkippedCharacters(const NckitCommandLine& cl, const std::string& text, std::ostream& err) {
+  std::size_t column = 0;
+  for (std::size_t i = 0; i < text.size();) {
+    const std::size_t length = CharacterLength(text, i);
+    ++column;
+    const char c = text[i];
+    if (!IsBlank(c) && !IsLetter(c) && !TokenizerTakes(c))
+      err << cl.Program() << ": skipped '" << ShownCharacter(text, i, length) << "' at column " << column
+          << '\n';
+    i += length;
+  }
 }
 
 int RunCalc(const NckitArgs& args, std::ostream& out, std::ostream& err) {
-  std::size_t first = 0;
-  if (!args.empty() && args[0] == "--") {
-    first = 1;
-  } else {
-    // A single '-' starts an expression ("-3*2"), but "--" followed by a letter can only be an option:
-    // as an expression it would be a unary minus followed by an operator, which cannot be evaluated.
-    for (const std::string& arg : args) {
-      if (arg == "--help" || arg == "-h") {
-        PrintHelp(out);
-        return kNckitOk;
-      }
-      if (arg.size() > 2 && arg[0] == '-' && arg[1] == '-' && IsLetter(arg[2])) {
-        err << "nckit calc: unknown option '" << arg << "' (try 'nckit calc --help')\n";
-        return kNckitUsage;
-      }
-    }
-  }
-  if (first >= args.size()) {
-    err << "nckit calc: missing expression (try 'nckit calc --help')\n";
-    return kNckitUsage;
-  }
+  std::vector<std::string> parts;
+  NckitCommandLine cl(
+      "calc", "nckit calc [--] EXPRESSION...",
+      "Evaluates EXPRESSION (several arguments are joined with blanks) and prints its value.\n"
+      "Numbers, * / + -, round or square brackets and SQRT, SIN, COS, TAN (radians, before a "
+      "bracket).\nOperators go by a fixed priority of the characters: all '*', then '/', then "
+      "'+', then '-'.\nAn expression may start with '-' and a digit, point or bracket (-3*2, "
+      "-(1+2)); one that starts\nwith '-' and a letter goes after '--' (nckit calc -- -SQRT(4)). "
+      "Any other character is skipped\nby the evaluator; each one skipped is named on stderr.\n");
+  cl.Operands("EXPRESSION", parts);
+  if (const auto stop = cl.Parse(args, out, err))
+    return *stop;
+  if (parts.empty())
+    return cl.UsageError("missing expression", err);
   std::string text;
-  for (std::size_t i = first; i < args.size(); ++i) {
-    if (i > first)
+  for (std::size_t i = 0; i < parts.size(); ++i) {
+    if (i > 0)
       text += ' ';
-    text += args[i];
+    text += parts[i];
   }
+  ReportSkippedCharacters(cl, text, err);
 
   LastMessageReporter reporter;
   KCC_MathExpression expr(reporter);

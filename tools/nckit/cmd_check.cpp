@@ -6,36 +6,31 @@
 #include <map>
 #include <ostream>
 #include <string>
+#include <vector>
 
-#include "NcLoadCommon.h"
 #include "NckitCommand.h"
+#include "NckitCommandLine.h"
+#include "NckitLoad.h"
 
 namespace {
 
-constexpr const char* kCommand = "check";
-
-void PrintHelp(std::ostream& out) {
-  out << "usage: nckit check FILE [--first-block] [--keep-unfinished] [--no-line-limit]\n"
-         "Exit code 0 when FILE loads with no error and no program number occurs twice (programs without a\n"
-         "number are not compared); 1 otherwise, with one line per problem on stderr.\n\n"
-         "options:\n"
-      << kNcLoadOptionsHelp;
-}
-
 int RunCheck(const NckitArgs& args, std::ostream& out, std::ostream& err) {
-  NcCommandLine cl;
-  if (int rc = ParseNcCommandLine(kCommand, args, {}, {}, cl, err); rc >= 0)
-    return rc;
-  if (cl.help) {
-    PrintHelp(out);
-    return kNckitOk;
-  }
-  if (cl.positionals.size() != 1)
-    return NcUsageError(kCommand, "expects exactly one FILE", err);
-  const std::string& path = cl.positionals[0];
+  std::vector<std::string> files;
+  NcLoadOptions load;
+  NckitCommandLine cl(
+      "check", "nckit check FILE [options]",
+      "Exit code 0 when FILE loads with no error and no program number occurs twice (programs "
+      "without a\nnumber are not compared); 1 otherwise, with one line per problem on stderr.\n");
+  cl.Operands("FILE", files);
+  cl.LoadOptions(load);
+  if (const auto stop = cl.Parse(args, out, err))
+    return *stop;
+  if (files.size() != 1)
+    return cl.UsageError("expects exactly one FILE", err);
+  const std::string& path = files[0];
   NcLoadResult loaded;
-  if (int rc = LoadNcFileWithoutError(kCommand, path, cl.LoadOptions(), loaded, err); rc >= 0)
-    return rc;
+  if (const auto stop = LoadNcFileWithoutError(cl, path, load, loaded, err))
+    return *stop;
   KCC_NcFile& file = *loaded.file;
   // Programs without a number (-1) are not compared: a Siemens file has none at all.
   std::map<int, int> count;
@@ -45,7 +40,7 @@ int RunCheck(const NckitArgs& args, std::ostream& out, std::ostream& err) {
   for (const auto& [number, n] : count) {
     if (number < 0 || n < 2)
       continue;
-    err << "nckit check: " << path << ": program number " << ProgramNumberText(number) << " occurs " << n
+    err << cl.Program() << ": " << path << ": program number " << ProgramNumberText(number) << " occurs " << n
         << " times\n";
     duplicates = true;
   }

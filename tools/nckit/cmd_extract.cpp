@@ -8,80 +8,69 @@
 #include <string>
 #include <vector>
 
-#include "NcLoadCommon.h"
 #include "NckitCommand.h"
+#include "NckitCommandLine.h"
+#include "NckitLoad.h"
+#include "NckitOutput.h"
 
 namespace {
 
-constexpr const char* kCommand = "extract";
-
-void PrintHelp(std::ostream& out) {
-  out << "usage: nckit extract FILE NUMBER... [-o OUT] [--first-block] [--keep-unfinished] "
-         "[--no-line-limit]\n"
-         "Writes the programs with the given numbers (1000, O1000 or :1000), every one that has such a "
-         "number,\n"
-         "in file order with main programs first, framed by '%' lines, to standard output or to OUT.\n"
-         "A number that matches no program is an error and nothing is written.\n\n"
-         "options:\n"
-         "  -o OUT             write to OUT instead of standard output (OUT is replaced)\n"
-      << kNcLoadOptionsHelp;
-}
-
 int RunExtract(const NckitArgs& args, std::ostream& out, std::ostream& err) {
-  NcCommandLine cl;
-  if (int rc = ParseNcCommandLine(kCommand, args, {}, {"-o"}, cl, err); rc >= 0)
-    return rc;
-  if (cl.help) {
-    PrintHelp(out);
-    return kNckitOk;
-  }
-  if (cl.positionals.size() < 2)
-    return NcUsageError(kCommand, "expects FILE and at least one NUMBER", err);
+  std::vector<std::string> operands;
+  std::string target;
+  NcLoadOptions load;
+  NckitCommandLine cl(
+      "extract", "nckit extract FILE NUMBER... [-o OUT] [options]",
+      "Writes the programs with the given numbers (1000, O1000 or :1000), every one that has "
+      "such a number,\nin file order with main programs first, framed by '%' lines, to "
+      "standard output or to OUT.\nA number that matches no program is an error and nothing is "
+      "written.\n");
+  cl.Operands("FILE NUMBER", operands);
+  cl.Option("-o,--output", target, "OUT", "write to OUT instead of standard output (OUT is replaced)");
+  cl.LoadOptions(load);
+  if (const auto stop = cl.Parse(args, out, err))
+    return *stop;
+  if (operands.size() < 2)
+    return cl.UsageError("expects FILE and at least one NUMBER", err);
   std::set<int> wanted;
-  if (int rc = ParseProgramNumberArguments(kCommand, cl, wanted, err); rc >= 0)
-    return rc;
-  if (cl.values.count("-o") != 0) {
-    if (int rc = CheckOutputFileName(kCommand, cl.values["-o"], err); rc >= 0)
-      return rc;
+  if (const auto stop = ParseProgramNumberArguments(
+          cl, std::vector<std::string>(operands.begin() + 1, operands.end()), wanted, err))
+    return *stop;
+  const bool toFile = cl.Given("-o");
+  if (toFile) {
+    if (const auto stop = CheckOutputFileName(cl, target, err))
+      return *stop;
   }
-  const std::string& path = cl.positionals[0];
+  const std::string& path = operands[0];
   NcLoadResult loaded;
-  if (int rc = LoadNcFileWithoutError(kCommand, path, cl.LoadOptions(), loaded, err); rc >= 0)
-    return rc;
+  if (const auto stop = LoadNcFileWithoutError(cl, path, load, loaded, err))
+    return *stop;
 
-  KCC_NcFile chosen;
   std::vector<const KCC_NcFileProgram*> programs;
   std::set<int> found;
-  KCC_NcFile& file = *loaded.file;
-  for (int which = 0; which < 2; ++which) {
-    KCC_NcFileProgramList& from = which == 0 ? file.GetMainProgList() : file.GetSubProgList();
-    KCC_NcFileProgramList& to = which == 0 ? chosen.GetMainProgList() : chosen.GetSubProgList();
-    for (int i = 0; i < from.GetNumberOfPrograms(); ++i) {
-      KCC_NcFileProgram* p = from.GetProgram(i);
-      if (p == nullptr || wanted.count(p->GetProgramNumber()) == 0)
-        continue;
-      found.insert(p->GetProgramNumber());
-      to.AddProgram(new KCC_NcFileProgram(*p));
-      programs.push_back(p);
-    }
+  for (const KCC_NcFileProgram* p : AllPrograms(*loaded.file)) {
+    if (wanted.count(p->GetProgramNumber()) == 0)
+      continue;
+    found.insert(p->GetProgramNumber());
+    programs.push_back(p);
   }
   bool missing = false;
   for (int number : wanted) {
     if (found.count(number) == 0) {
-      err << "nckit extract: " << path << ": no program " << ProgramNumberText(number) << '\n';
+      err << cl.Program() << ": " << path << ": no program " << ProgramNumberText(number) << '\n';
       missing = true;
     }
   }
   if (missing)
     return kNckitProblem;
 
-  if (cl.values.count("-o") == 0) {
-    out << ProgramsText(programs);
+  if (!toFile) {
+    // The standard output is a text stream: on Windows it turns each "\n" into the platform's line end.
+    out << KCC_NcFile::GetProgramsText(programs, KCString("\n"));
     return kNckitOk;
   }
-  const std::string& target = cl.values["-o"];
-  if (!chosen.SaveToFile(target)) {
-    err << "nckit extract: cannot write " << target << '\n';
+  if (!KCC_NcFile::SaveProgramsToFile(target, programs)) {
+    err << cl.Program() << ": cannot write " << target << '\n';
     return kNckitProblem;
   }
   return kNckitOk;

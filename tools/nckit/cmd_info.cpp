@@ -9,47 +9,53 @@
 #include <string>
 #include <vector>
 
-#include "NcLoadCommon.h"
 #include "NckitCommand.h"
+#include "NckitCommandLine.h"
+#include "NckitJson.h"
+#include "NckitLoad.h"
+#include "NckitUtf8.h"
 
 namespace {
-
-constexpr const char* kCommand = "info";
-
-void PrintHelp(std::ostream& out) {
-  out << "usage: nckit info FILE [--first-block] [--keep-unfinished] [--no-line-limit] [--json]\n"
-         "Loads FILE and shows its structure (Fanuc / Siemens), the load result and a table of its "
-         "programs:\n"
-         "list (main/sub), number, reference text, lines and size (characters without line ends). Programs\n"
-         "whose number occurs more than once are flagged (programs without a number are not compared).\n\n"
-         "options:\n"
-      << kNcLoadOptionsHelp << "  --json             write the result as one JSON object\n";
-}
 
 struct Row {
   const char* list;
   KCC_NcFileProgram* program;
 };
 
+// `text` followed by blanks up to `width` characters as a terminal shows them: a UTF-8 character is one.
+std::string Pad(std::string text, std::size_t width) {
+  const std::size_t shown = DisplayedLength(text);
+  if (shown < width)
+    text.append(width - shown, ' ');
+  return text;
+}
+
 int RunInfo(const NckitArgs& args, std::ostream& out, std::ostream& err) {
-  NcCommandLine cl;
-  if (int rc = ParseNcCommandLine(kCommand, args, {"--json"}, {}, cl, err); rc >= 0)
-    return rc;
-  if (cl.help) {
-    PrintHelp(out);
-    return kNckitOk;
-  }
-  if (cl.positionals.size() != 1)
-    return NcUsageError(kCommand, "expects exactly one FILE", err);
-  const std::string& path = cl.positionals[0];
+  std::vector<std::string> files;
+  bool json = false;
+  NcLoadOptions load;
+  NckitCommandLine cl(
+      "info", "nckit info FILE [options]",
+      "Loads FILE and shows its structure (Fanuc / Siemens), the load result and a table of its "
+      "programs:\nlist (main/sub), number, reference text, lines and size (characters without "
+      "line ends). Programs\nwhose number occurs more than once are flagged (programs without a "
+      "number are not compared).\n");
+  cl.Operands("FILE", files);
+  cl.LoadOptions(load);
+  cl.Flag("--json", json, "write the result as one JSON object");
+  if (const auto stop = cl.Parse(args, out, err))
+    return *stop;
+  if (files.size() != 1)
+    return cl.UsageError("expects exactly one FILE", err);
+  const std::string& path = files[0];
   NcLoadResult loaded;
-  if (int rc = LoadNcFile(kCommand, path, cl.LoadOptions(), loaded, err); rc >= 0)
-    return rc;
-  if (loaded.errorCode != 0) {
-    ReportLoadError(kCommand, path, loaded, err);
-    if (cl.Has("--json")) {
+  if (const auto stop = LoadNcFile(cl, path, load, loaded, err))
+    return *stop;
+  if (loaded.errorCode != KCC_NcFile::kNoError) {
+    ReportLoadError(cl, path, loaded, err);
+    if (json) {
       out << "{\"file\": " << JsonString(path) << ", \"error\": " << loaded.errorCode
-          << ", \"result\": " << JsonString(NcLoadErrorName(loaded.errorCode));
+          << ", \"result\": " << JsonString(KCC_NcFile::GetErrorName(loaded.errorCode).str());
       if (loaded.longLine > 0)
         out << ", \"longLine\": " << loaded.longLine;
       out << "}\n";
@@ -79,9 +85,10 @@ int RunInfo(const NckitArgs& args, std::ostream& out, std::ostream& err) {
     return p->GetProgramNumber() >= 0 && count[p->GetProgramNumber()] > 1;
   };
 
-  if (cl.Has("--json")) {
+  if (json) {
     out << "{\"file\": " << JsonString(path) << ", \"structure\": " << JsonString(structure)
-        << ", \"error\": 0, \"result\": " << JsonString(NcLoadErrorName(0))
+        << ", \"error\": " << KCC_NcFile::kNoError
+        << ", \"result\": " << JsonString(KCC_NcFile::GetErrorName(KCC_NcFile::kNoError).str())
         << ", \"duplicateNumbers\": " << (duplicates ? "true" : "false") << ", \"programs\": [";
     for (std::size_t i = 0; i < rows.size(); ++i) {
       KCC_NcFileProgram* p = rows[i].program;
@@ -97,22 +104,17 @@ int RunInfo(const NckitArgs& args, std::ostream& out, std::ostream& err) {
 
   out << "file:       " << path << '\n'
       << "structure:  " << structure << '\n'
-      << "load:       " << NcLoadErrorName(0) << '\n'
+      << "load:       " << KCC_NcFile::GetErrorName(KCC_NcFile::kNoError) << '\n'
       << "programs:   " << file.GetNumberOfMainPrograms() << " main, " << file.GetNumberOfSubPrograms()
       << " sub\n\n";
   std::size_t refWidth = 3;
   for (const Row& r : rows)
-    refWidth = std::max(refWidth, r.program->GetProgramRef().size());
-  auto pad = [](std::string s, std::size_t w) {
-    if (s.size() < w)
-      s.append(w - s.size(), ' ');
-    return s;
-  };
-  out << pad("list", 6) << pad("number", 8) << pad("ref", refWidth + 2) << pad("lines", 9) << "size\n";
+    refWidth = std::max(refWidth, DisplayedLength(r.program->GetProgramRef().str()));
+  out << Pad("list", 6) << Pad("number", 8) << Pad("ref", refWidth + 2) << Pad("lines", 9) << "size\n";
   for (const Row& r : rows) {
     KCC_NcFileProgram* p = r.program;
-    out << pad(r.list, 6) << pad(ProgramNumberText(p->GetProgramNumber()), 8)
-        << pad(p->GetProgramRef().str(), refWidth + 2) << pad(std::to_string(p->GetStringList().size()), 9)
+    out << Pad(r.list, 6) << Pad(ProgramNumberText(p->GetProgramNumber()), 8)
+        << Pad(p->GetProgramRef().str(), refWidth + 2) << Pad(std::to_string(p->GetStringList().size()), 9)
         << p->CalculateProgramSize();
     if (isDuplicate(p))
       out << "  duplicate number";

@@ -11,54 +11,51 @@
 #include <utility>
 #include <vector>
 
-#include "NcLoadCommon.h"
 #include "NckitCommand.h"
+#include "NckitCommandLine.h"
+#include "NckitLoad.h"
+#include "NckitOutput.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
-constexpr const char* kCommand = "split";
-
-void PrintHelp(std::ostream& out) {
-  out << "usage: nckit split FILE -o DIR [--force] [--first-block] [--keep-unfinished] [--no-line-limit]\n"
-         "Writes every program of FILE (main programs first, then sub-programs) to its own file in DIR,\n"
-         "framed by '%' lines. A program numbered 12 goes to O0012.nc; a second program with the same "
-         "number\n"
-         "to O0012_2.nc; a program without a number to unnumbered_1.nc, unnumbered_2.nc, ... DIR is created\n"
-         "when missing. Existing files are not replaced unless --force is given; FILE itself never is.\n\n"
-         "options:\n"
-         "  -o DIR             the directory to write into (required)\n"
-         "  --force            replace existing files\n"
-      << kNcLoadOptionsHelp;
-}
-
 int RunSplit(const NckitArgs& args, std::ostream& out, std::ostream& err) {
-  NcCommandLine cl;
-  if (int rc = ParseNcCommandLine(kCommand, args, {"--force"}, {"-o"}, cl, err); rc >= 0)
-    return rc;
-  if (cl.help) {
-    PrintHelp(out);
-    return kNckitOk;
-  }
-  if (cl.positionals.size() != 1)
-    return NcUsageError(kCommand, "expects exactly one FILE", err);
-  if (cl.values.count("-o") == 0 || cl.values["-o"].empty())
-    return NcUsageError(kCommand, "needs -o DIR", err);
-  const std::string& path = cl.positionals[0];
-  const fs::path dir(cl.values["-o"]);
+  std::vector<std::string> files;
+  std::string directory;
+  bool force = false;
+  NcLoadOptions load;
+  NckitCommandLine cl(
+      "split", "nckit split FILE -o DIR [--force] [options]",
+      "Writes every program of FILE (main programs first, then sub-programs) to its own file in "
+      "DIR,\nframed by '%' lines. A program numbered 12 goes to O0012.nc; a second program with "
+      "the same number\nto O0012_2.nc; a program without a number to unnumbered_1.nc, "
+      "unnumbered_2.nc, ... DIR is created\nwhen missing. Existing files are not replaced unless "
+      "--force is given; FILE itself never is.\n");
+  cl.Operands("FILE", files);
+  cl.Option("-o,--output", directory, "DIR", "the directory to write into (required)");
+  cl.Flag("--force", force, "replace existing files");
+  cl.LoadOptions(load);
+  if (const auto stop = cl.Parse(args, out, err))
+    return *stop;
+  if (files.size() != 1)
+    return cl.UsageError("expects exactly one FILE", err);
+  if (directory.empty())
+    return cl.UsageError("needs -o DIR", err);
+  const std::string& path = files[0];
+  const fs::path dir(directory);
 
   std::error_code ec;
   if (fs::exists(dir, ec) && !fs::is_directory(dir, ec)) {
-    err << "nckit split: " << dir.string() << ": exists and is not a directory\n";
+    err << cl.Program() << ": " << dir.string() << ": exists and is not a directory\n";
     return kNckitUsage;
   }
   NcLoadResult loaded;
-  if (int rc = LoadNcFileWithoutError(kCommand, path, cl.LoadOptions(), loaded, err); rc >= 0)
-    return rc;
+  if (const auto stop = LoadNcFileWithoutError(cl, path, load, loaded, err))
+    return *stop;
 
   // Decide every name first, so that nothing is written when one target may not be replaced.
-  std::vector<std::pair<KCC_NcFileProgram*, fs::path>> targets;
+  std::vector<std::pair<const KCC_NcFileProgram*, fs::path>> targets;
   std::map<int, int> seen;
   int unnumbered = 0;
   for (KCC_NcFileProgram* p : AllPrograms(*loaded.file)) {
@@ -74,28 +71,27 @@ int RunSplit(const NckitArgs& args, std::ostream& out, std::ostream& err) {
   }
   for (const auto& [program, target] : targets) {
     if (SameFile(target.string(), path)) {
-      err << "nckit split: " << target.string() << " is the input file; choose another directory\n";
+      err << cl.Program() << ": " << target.string() << " is the input file; choose another directory\n";
       return kNckitProblem;
     }
     if (fs::is_directory(target, ec)) {
-      err << "nckit split: " << target.string() << " is a directory; remove it or choose another directory\n";
+      err << cl.Program() << ": " << target.string()
+          << " is a directory; remove it or choose another directory\n";
       return kNckitProblem;
     }
-    if (!cl.Has("--force") && fs::exists(target, ec)) {
-      err << "nckit split: " << target.string() << " exists; use --force to replace it\n";
+    if (!force && fs::exists(target, ec)) {
+      err << cl.Program() << ": " << target.string() << " exists; use --force to replace it\n";
       return kNckitProblem;
     }
   }
   fs::create_directories(dir, ec);
   if (ec) {
-    err << "nckit split: cannot create " << dir.string() << ": " << ec.message() << '\n';
+    err << cl.Program() << ": cannot create " << dir.string() << ": " << ec.message() << '\n';
     return kNckitProblem;
   }
   for (const auto& [program, target] : targets) {
-    KCC_NcFile single;
-    single.GetMainProgList().AddProgram(new KCC_NcFileProgram(*program));
-    if (!single.SaveToFile(target.string())) {
-      err << "nckit split: cannot write " << target.string() << '\n';
+    if (!KCC_NcFile::SaveProgramsToFile(target.string(), {program})) {
+      err << cl.Program() << ": cannot write " << target.string() << '\n';
       return kNckitProblem;
     }
     out << target.string() << '\n';

@@ -15,8 +15,10 @@
 #include <limits>
 #include <ostream>
 #include <string>
+#include <vector>
 
 #include "NckitCommand.h"
+#include "NckitCommandLine.h"
 #include "ncappkit/foundation/KCString.h"
 #include "ncappkit/units/KCC_MmInch.h"
 
@@ -55,88 +57,59 @@ bool ParseQuantity(const std::string& text, Quantity& quantity) {
   return false;
 }
 
-void PrintHelp(std::ostream& out) {
-  out << "usage: nckit units VALUE --from mm|inch --to mm|inch "
-         "[--quantity axis|dimension|thickness|weight|specweight]\n"
-         "Converts VALUE (lengths only; weights keep their value), rounds it half away from zero and writes\n"
-         "it with the digits of the quantity in the target unit (default quantity: axis). A negative VALUE\n"
-         "may be given as it is (-5) or after '--'. --help (-h) shows this text.\n";
-}
-
-int Usage(std::ostream& err, const std::string& problem) {
-  err << "nckit units: " << problem << " (try 'nckit units --help')\n";
-  return kNckitUsage;
+// "-0.000" -> "0.000": a value that rounds to zero has no sign.
+std::string WithoutNegativeZero(std::string text) {
+  if (!text.empty() && text[0] == '-' && text.find_first_of("123456789") == std::string::npos)
+    text.erase(0, 1);
+  return text;
 }
 
 int RunUnits(const NckitArgs& args, std::ostream& out, std::ostream& err) {
-  bool haveValue = false;
-  double value = 0.0;
-  std::string valueText;
+  std::vector<std::string> values;
+  std::string fromText;
+  std::string toText;
+  std::string quantityText = "axis";
+  NckitCommandLine cl(
+      "units",
+      "nckit units VALUE --from mm|inch --to mm|inch "
+      "[--quantity axis|dimension|thickness|weight|specweight]",
+      "Converts VALUE (lengths only; weights keep their value), rounds it half away from zero "
+      "and writes\nit with the digits of the quantity in the target unit (default quantity: "
+      "axis). A negative VALUE\nmay be given as it is (-5, -.5) or after '--'. A value that "
+      "rounds to zero is written without a sign.\n");
+  cl.Operands("VALUE", values);
+  cl.Option("--from", fromText, "UNIT", "the unit of VALUE: mm or inch (in)");
+  cl.Option("--to", toText, "UNIT", "the unit to write: mm or inch (in)");
+  cl.Option("--quantity", quantityText, "KIND",
+            "axis (default), dimension, thickness, weight or specweight: the digits and\nwhether VALUE is a "
+            "length");
+  if (const auto stop = cl.Parse(args, out, err))
+    return *stop;
+  if (values.empty())
+    return cl.UsageError("missing value", err);
+  if (values.size() > 1)
+    return cl.UsageError("more than one value: '" + values[1] + "'", err);
+  const std::string& valueText = values[0];
+  const double value = KCString(valueText).AsDoubleStrict(std::numeric_limits<double>::quiet_NaN());
+  if (std::isnan(value))
+    return cl.UsageError("not a number: '" + valueText + "'", err);
+  if (!std::isfinite(value)) {
+    err << cl.Program() << ": value '" << valueText << "' is out of range\n";
+    return kNckitUsage;
+  }
+  if (!cl.Given("--from"))
+    return cl.UsageError("missing --from", err);
+  if (!cl.Given("--to"))
+    return cl.UsageError("missing --to", err);
   KCC_MmInch from;
   KCC_MmInch to;
   Quantity quantity = Quantity::kAxis;
-  bool optionsEnded = false;
-  for (std::size_t i = 0; i < args.size(); ++i) {
-    std::string arg = args[i];
-    if (!optionsEnded && (arg == "--help" || arg == "-h")) {
-      PrintHelp(out);
-      return kNckitOk;
-    }
-    if (!optionsEnded && arg == "--") {
-      optionsEnded = true;
-      continue;
-    }
-    std::string option;
-    std::string optionValue;
-    bool isOption = false;
-    if (!optionsEnded && arg.rfind("--", 0) == 0 && arg.size() > 2) {
-      isOption = true;
-      const std::size_t eq = arg.find('=');
-      option = arg.substr(0, eq);
-      if (option != "--from" && option != "--to" && option != "--quantity")
-        return Usage(err, "unknown option '" + option + "'");
-      if (eq != std::string::npos) {
-        optionValue = arg.substr(eq + 1);
-      } else {
-        if (i + 1 >= args.size())
-          return Usage(err, "missing value after " + option);
-        optionValue = args[++i];
-      }
-    }
-    if (!isOption) {
-      // A value (negative values start with '-').
-      const KCString text(arg);
-      const double parsed = text.AsDoubleStrict(std::numeric_limits<double>::quiet_NaN());
-      if (haveValue)
-        return Usage(err, "more than one value: '" + arg + "'");
-      if (std::isnan(parsed))
-        return Usage(err, "not a number: '" + arg + "'");
-      if (!std::isfinite(parsed)) {
-        err << "nckit units: value '" << arg << "' is out of range\n";
-        return kNckitUsage;
-      }
-      value = parsed;
-      valueText = arg;
-      haveValue = true;
-      continue;
-    }
-    if (option == "--from") {
-      if (!ParseUnit(optionValue, from))
-        return Usage(err, "unknown unit '" + optionValue + "' (mm or inch)");
-    } else if (option == "--to") {
-      if (!ParseUnit(optionValue, to))
-        return Usage(err, "unknown unit '" + optionValue + "' (mm or inch)");
-    } else {
-      if (!ParseQuantity(optionValue, quantity))
-        return Usage(err, "unknown quantity '" + optionValue + "'");
-    }
-  }
-  if (!haveValue)
-    return Usage(err, "missing value");
-  if (from.IsUndef())
-    return Usage(err, "missing --from");
-  if (to.IsUndef())
-    return Usage(err, "missing --to");
+  if (!ParseUnit(fromText, from))
+    return cl.UsageError("unknown unit '" + fromText + "' (mm or inch)", err);
+  if (!ParseUnit(toText, to))
+    return cl.UsageError("unknown unit '" + toText + "' (mm or inch)", err);
+  if (!ParseQuantity(quantityText, quantity))
+    return cl.UsageError("unknown quantity '" + quantityText + "'", err);
 
   const bool isLength =
       quantity == Quantity::kAxis || quantity == Quantity::kDimension || quantity == Quantity::kThickness;
@@ -175,7 +148,7 @@ int RunUnits(const NckitArgs& args, std::ostream& out, std::ostream& err) {
   if (!std::isfinite(converted) ||
       std::fabs(converted) * std::pow(10.0, stepDigits) + 0.5 >= kMaxSteps + 1.0) {
     const KCString limit(kMaxSteps / std::pow(10.0, stepDigits), stepDigits, false);
-    err << "nckit units: value '" << valueText << "' is out of range: at most " << limit << ' '
+    err << cl.Program() << ": value '" << valueText << "' is out of range: at most " << limit << ' '
         << (to.IsInchMode() ? "inch" : "mm") << " after conversion\n";
     return kNckitUsage;
   }
@@ -215,7 +188,7 @@ int RunUnits(const NckitArgs& args, std::ostream& out, std::ostream& err) {
       text = format.FormatSpecWeight(rounded);
       break;
   }
-  out << text << '\n';
+  out << WithoutNegativeZero(text.str()) << '\n';
   return kNckitOk;
 }
 

@@ -44,11 +44,6 @@ TEST_F(NckitBlock, MalformedBlockShowsTheWordsBeforeTheFault) {
   EXPECT_NE(r.err.find("malformed block"), std::string::npos);
 }
 
-TEST_F(NckitBlock, VIsShownWithX) {
-  EXPECT_EQ(Run({"block", "X1 V2"}).out, "V 2\nX 1\n");
-  EXPECT_EQ(Run({"block", "V2 Y1"}).out, "Y 1\n");
-}
-
 TEST_F(NckitBlock, OverlongFractionHasNoJsonNumber) {
   const ChildResult r = Run({"block", "X1." + std::string(40, '1'), "--json"});
   EXPECT_EQ(r.exitCode, 0);
@@ -92,8 +87,24 @@ TEST_F(NckitBlock, FileLoadingOptionIsUnknownHere) {
   EXPECT_EQ(r.err, "nckit block: unknown option '--no-line-limit' (try 'nckit block --help')\n");
 }
 
-TEST_F(NckitBlock, VInACommentOrWithoutANumberIsNoWord) {
-  EXPECT_EQ(Run({"block", "X1 (V2)"}).out, "X 1\n");
-  EXPECT_EQ(Run({"block", "X1 V 2"}).out, "X 1\n");
-  EXPECT_EQ(Run({"block", "X1 (A) V-3.5"}).out, "V -3.5\nX 1\n");
+struct VWordRow {
+  const char* name;
+  const char* block;
+  const char* out;
+};
+
+class NckitBlockVWord : public NckitParamTest<VWordRow> {};
+
+TEST_P(NckitBlockVWord, IsShownOnlyWhenTheBlockHoldsXAndAVWord) {
+  const ChildResult r = Run({"block", GetParam().block});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(r.out, GetParam().out);
 }
+
+INSTANTIATE_TEST_SUITE_P(Blocks, NckitBlockVWord,
+                         ::testing::Values(VWordRow{"WithX", "X1 V2", "V 2\nX 1\n"},
+                                           VWordRow{"WithoutX", "V2 Y1", "Y 1\n"},
+                                           VWordRow{"InAComment", "X1 (V2)", "X 1\n"},
+                                           VWordRow{"WithoutANumber", "X1 V 2", "X 1\n"},
+                                           VWordRow{"AfterAComment", "X1 (A) V-3.5", "V -3.5\nX 1\n"}),
+                         NckitRowName());

@@ -20,31 +20,50 @@ TEST_F(NckitUnits, ConvertsMmToInchAsAnAxisPosition) {
   EXPECT_EQ(r.err, "");
 }
 
-TEST_F(NckitUnits, ConvertsInchToMm) {
-  EXPECT_EQ(Run({"units", "1", "--from", "inch", "--to", "mm"}).out, "25.400\n");
-  EXPECT_EQ(Run({"units", "2", "--from", "inch", "--to", "mm", "--quantity", "dimension"}).out, "50.8\n");
+struct ConversionRow {
+  const char* name;
+  std::vector<std::string> args;
+  const char* out;
+};
+
+class NckitUnitsConversion : public NckitParamTest<ConversionRow> {};
+
+TEST_P(NckitUnitsConversion, WritesTheRoundedValue) {
+  std::vector<std::string> args = {"units"};
+  args.insert(args.end(), GetParam().args.begin(), GetParam().args.end());
+  const ChildResult r = Run(args);
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(r.out, std::string(GetParam().out) + "\n");
+  EXPECT_EQ(r.err, "");
 }
 
-TEST_F(NckitUnits, RoundsHalfAwayFromZero) {
-  EXPECT_EQ(Run({"units", "1.23456", "--from", "mm", "--to", "mm"}).out, "1.235\n");
-  EXPECT_EQ(Run({"units", "-1.23456", "--from", "mm", "--to", "mm"}).out, "-1.235\n");
-}
-
-TEST_F(NckitUnits, NegativeMmToInchKeepsTheLibrarysTruncation) {
-  EXPECT_EQ(Run({"units", "-25.4", "--from", "mm", "--to", "inch"}).out, "-0.9999\n");
-}
-
-TEST_F(NckitUnits, QuantitiesUseTheirDigits) {
-  EXPECT_EQ(Run({"units", "1.23456", "--from", "mm", "--to", "mm", "--quantity", "thickness"}).out, "1.23\n");
-  EXPECT_EQ(Run({"units", "1.23456", "--from", "inch", "--to", "inch", "--quantity", "thickness"}).out,
-            "1.2346\n");
-  EXPECT_EQ(Run({"units", "7.85", "--from", "mm", "--to", "mm", "--quantity", "specweight"}).out, "7.9\n");
-}
-
-TEST_F(NckitUnits, WeightsAreNotConvertedButRounded) {
-  EXPECT_EQ(Run({"units", "12.5", "--from", "mm", "--to", "inch", "--quantity", "weight"}).out, "13\n");
-  EXPECT_EQ(Run({"units", "12.34", "--from", "inch", "--to", "mm", "--quantity=weight"}).out, "12.3\n");
-}
+INSTANTIATE_TEST_SUITE_P(
+    Values, NckitUnitsConversion,
+    ::testing::Values(
+        ConversionRow{"InchToMmAxis", {"1", "--from", "inch", "--to", "mm"}, "25.400"},
+        ConversionRow{
+            "InchToMmDimension", {"2", "--from", "inch", "--to", "mm", "--quantity", "dimension"}, "50.8"},
+        ConversionRow{"RoundsHalfAwayFromZero", {"1.23456", "--from", "mm", "--to", "mm"}, "1.235"},
+        ConversionRow{"RoundsNegativeHalfAwayFromZero", {"-1.23456", "--from", "mm", "--to", "mm"}, "-1.235"},
+        ConversionRow{"NegativeMmToInchKeepsTheLibrarysTruncation",
+                      {"-25.4", "--from", "mm", "--to", "inch"},
+                      "-0.9999"},
+        ConversionRow{"MmThicknessDigits",
+                      {"1.23456", "--from", "mm", "--to", "mm", "--quantity", "thickness"},
+                      "1.23"},
+        ConversionRow{"InchThicknessDigits",
+                      {"1.23456", "--from", "inch", "--to", "inch", "--quantity", "thickness"},
+                      "1.2346"},
+        ConversionRow{"SpecificWeightDigits",
+                      {"7.85", "--from", "mm", "--to", "mm", "--quantity", "specweight"},
+                      "7.9"},
+        ConversionRow{"WeightIsNotConvertedToInch",
+                      {"12.5", "--from", "mm", "--to", "inch", "--quantity", "weight"},
+                      "13"},
+        ConversionRow{"WeightIsNotConvertedToMm",
+                      {"12.34", "--from", "inch", "--to", "mm", "--quantity=weight"},
+                      "12.3"}),
+    NckitRowName());
 
 TEST_F(NckitUnits, OptionsTakeTheEqualsForm) {
   EXPECT_EQ(Run({"units", "--from=mm", "--to=inch", "50.8"}).out, "2.0000\n");

@@ -4,7 +4,9 @@
 //   nckit calc '2*(3+(4-1))'        -> 12
 //   nckit calc '-3*2'               -> -6   (a leading '-' belongs to the expression)
 //   nckit calc -- '-3*2'            -> -6
+//   nckit calc '2$+3'               -> 5, and "nckit calc: skipped '$' at column 2" on stderr
 //
+// Characters the evaluator skips without a word are named on stderr, one line each.
 // The value is printed in its shortest exact form. A failed parse or evaluation prints the evaluator's last
 // message (or "unknown function ...") on stderr and exits 1. Lists on which the evaluator would never finish
 // (an operator missing between two items, as in "2 3") are refused before evaluating.

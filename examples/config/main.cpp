@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 // example_config: how a client program reads and changes its settings with KCC_CfgApplication.
 //
-//   example_config [file.ini [new-data-directory]]
+//   example_config [sample.ini [new-data-directory]]
 //
-// Loads the "MillCam" section (the sample millcam.ini by default), prints the settings, then moves the data
-// directory and shows that the file now holds the new value.
+// Copies the sample (millcam.ini beside this file by default) into the current directory, loads the "MillCam"
+// section of the copy, prints the settings, then moves the data directory and shows that the file now holds the
+// new value. The sample itself is never changed.
+#include <filesystem>
 #include <iostream>
 #include <string>
 
@@ -52,8 +54,15 @@ void Print(const KCC_CfgApplication& app) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  const std::string iniPath = argc > 1 ? argv[1] : EXAMPLE_CONFIG_INI;
+  const std::string samplePath = argc > 1 ? argv[1] : EXAMPLE_CONFIG_INI;
   const std::string newDataDir = argc > 2 ? argv[2] : "/srv/nc/archive";
+  const std::string iniPath = "millcam.ini";
+  std::error_code error;
+  std::filesystem::copy_file(samplePath, iniPath, std::filesystem::copy_options::overwrite_existing, error);
+  if (error) {
+    std::cerr << "cannot copy " << samplePath << ": " << error.message() << '\n';
+    return 1;
+  }
 
   KCString appName;
   if (KCC_AppName::PrepareAppName(appName))

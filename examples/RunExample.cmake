@@ -1,10 +1,11 @@
 # SPDX-License-Identifier: MIT
 # Runs one example program in a fresh working directory and compares its standard output with the expected
 # output file byte for byte. With UPDATE set the expected file is rewritten instead.
-#   cmake -DPROGRAM=... -DARGS=a;b -DEXPECTED=... -DWORK_DIR=... [-DUPDATE=ON] -P RunExample.cmake
+# EMULATOR, when given, runs the program (wine for a cross-built Windows program).
+#   cmake [-DEMULATOR=wine] -DPROGRAM=... -DARGS=a;b -DEXPECTED=... -DWORK_DIR=... [-DUPDATE=ON] -P RunExample.cmake
 file(REMOVE_RECURSE "${WORK_DIR}")
 file(MAKE_DIRECTORY "${WORK_DIR}")
-execute_process(COMMAND "${PROGRAM}" ${ARGS}
+execute_process(COMMAND ${EMULATOR} "${PROGRAM}" ${ARGS}
   WORKING_DIRECTORY "${WORK_DIR}"
   OUTPUT_VARIABLE out
   ERROR_VARIABLE err

@@ -16,6 +16,7 @@
 //
 // The write-enable probe advances the counter in the file on every call, so that a read-only or locked file
 // is noticed: IsConfigurationWriteEnable() is then false.
+// See docs/behaviours.md#configuration.
 #pragma once
 
 #include <cstdint>

@@ -10,6 +10,8 @@
 //   KCString lang = cfg.ReadCfgStringCreate("Lang", "Eng");    // writes Lang=Eng when missing
 //   cfg.WriteCfgOption("ShowGrid", true);
 //   bool grid = cfg.ReadCfgOption("ShowGrid", false);           // true
+//
+// See docs/behaviours.md#configuration.
 #pragma once
 
 #include "ncappkit/export.h"

@@ -24,6 +24,8 @@
 //   the number of decimals written (negative: the shortest text that reads back exactly). Read reads that
 //   form back; its int, when not negative, rounds every value read to that many decimals. Read gives false
 //   and leaves the element unchanged when the section, the type or a coordinate is missing or not a number.
+//
+// See docs/behaviours.md#2d-geometry.
 #pragma once
 
 #include <vector>

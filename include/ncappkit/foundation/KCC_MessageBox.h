@@ -18,6 +18,7 @@
 //
 // Windows' <windows.h> defines GetMessage as a macro; include it after this header or #undef GetMessage
 // before calling KCC_MessageBox::GetMessage.
+// See docs/behaviours.md#message-reporters.
 #pragma once
 
 #include <cstdint>

@@ -17,6 +17,7 @@
 // - At most kMaxKept messages and kMaxKept reports are kept; older ones drop off the front, so a caller that
 //   never clears cannot grow memory without bound.
 // - ClearMessage empties the current header and message only; ClearKept forgets the kept history too.
+// See docs/behaviours.md#message-reporters.
 #pragma once
 
 #include <cstddef>

@@ -12,6 +12,8 @@
 //   reporter.SetHeader("Expression");
 //   reporter.SetMessage("Division by zero");
 //   reporter.DoReport();                       // nothing happens
+//
+// See docs/behaviours.md#message-reporters.
 #pragma once
 
 #include "ncappkit/export.h"

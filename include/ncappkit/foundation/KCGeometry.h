@@ -11,6 +11,7 @@
 //
 // A zero-length line (start and end exactly equal) stands for its start point: the distance is the
 // distance to that point and the foot is that point; both operations then return false.
+// See docs/behaviours.md#2d-geometry.
 #pragma once
 
 #include "ncappkit/export.h"

@@ -10,6 +10,8 @@
 //   KCIniFile ini("app.ini");
 //   KCString lang = ini.ReadString("MyApp", "Lang", "Eng", true);   // creates Lang=Eng when missing
 //   ini.WriteInteger("MyApp", "Units", 1);
+//
+// See docs/behaviours.md#ini-files.
 #pragma once
 
 #include "ncappkit/export.h"

@@ -11,6 +11,8 @@
 //
 //   unsigned MyBox(HWND, const char* text, const char* caption, unsigned style) { return 1; }
 //   KCC_MessageBoxHandler old = KCC_SetMessageBoxHandler(&MyBox);
+//
+// See docs/behaviours.md#message-reporters.
 #pragma once
 
 #include "ncappkit/export.h"

@@ -10,6 +10,8 @@
 //   KCString x = line.Mid(9, 4);           // "12.5"
 //   double v = x.AsDouble(0.0);            // 12.5
 //   KCString text(2.50, -1, false);        // "2.5" (shortest text that reads back to the same double)
+//
+// See docs/behaviours.md#strings.
 #pragma once
 
 #include <cstddef>

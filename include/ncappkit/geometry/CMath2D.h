@@ -21,6 +21,7 @@
 // src/geometry/CircleKernels.h). They are deliberately not unified. Nothing throws except the four start/end
 // angle operations, which throw IMath2DException by value for an arc that is neither clockwise nor
 // counter-clockwise.
+// See docs/behaviours.md#2d-geometry.
 #pragma once
 
 #include "ncappkit/export.h"

@@ -18,6 +18,7 @@
 // CAuxCircle implements only the radius of KCI_AuxCircle; its GetXPos/SetXPos/GetYPos/SetYPos are plain
 // members that do not implement the interface's centre operations, so CAuxCircle is abstract. The ready-made
 // circle is CAuxCircleImpl, a CAuxCircle whose interface centre operations read and write those same fields.
+// See docs/behaviours.md#2d-geometry.
 #pragma once
 
 #include "ncappkit/export.h"

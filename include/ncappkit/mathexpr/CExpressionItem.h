@@ -21,6 +21,7 @@
 // A list holds at most kMaxItems items; an insertion beyond that throws std::length_error("list too long").
 // The bound sits far above any expression a person types, and keeps the cost of evaluating (which reports
 // every intermediate list, so it grows with the square of the length) well under a second.
+// See docs/behaviours.md#typed-in-arithmetic.
 #pragma once
 
 #include <cstddef>

@@ -30,6 +30,7 @@
 // Choices where the behaviour is otherwise open: an empty bracket pair "()" fails (false). Lists hold at
 // most CExpressionItemList::kMaxItems items: parsing or building a longer one throws
 // std::length_error("list too long").
+// See docs/behaviours.md#typed-in-arithmetic.
 #pragma once
 
 #include "ncappkit/export.h"

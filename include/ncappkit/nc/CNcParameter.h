@@ -16,6 +16,7 @@
 // - CNcParamIsoCommand: the number of one address after a command text ("G01 X10. Y5": command G01,
 //   address X).
 // The parameter does not own its line; the line must outlive the parameter's use of it.
+// See docs/behaviours.md#nc-parameter-lines.
 #pragma once
 
 #include "ncappkit/export.h"

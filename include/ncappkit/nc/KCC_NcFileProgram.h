@@ -11,6 +11,7 @@
 //
 // Selection and download action share one field: selecting overwrites "delete" and "keep in memory", and
 // deselecting resets any action to "no action".
+// See docs/behaviours.md#nc-programs-and-program-lists.
 #pragma once
 
 #include "ncappkit/export.h"

@@ -11,6 +11,7 @@
 // Ownership: the list deletes its programs in ClearWithContents, RemoveProgramFromList and its destructor.
 // Copying a list copies only the pointers (and the cursor): both lists then refer to the same programs and
 // both would delete them. Keep one copy alive only, or call Detach on all copies but one before they go.
+// See docs/behaviours.md#nc-programs-and-program-lists.
 #pragma once
 
 #include <cstddef>

@@ -19,6 +19,7 @@
 // - GetVCommand tests whether X was present and then returns the V value.
 // - The letters H, O, Q, U, W, Z and all lower-case letters are not decoded.
 // Decoding never allocates memory.
+// See docs/behaviours.md#nc-block-decoder.
 #pragma once
 
 #include <cstdint>

@@ -34,6 +34,7 @@
 // digits, for example) it is truncated as a double instead, which gives the same digits a wider integer
 // would; NaN and infinities pass through unchanged. The integer unit-string reader saturates at the int
 // range.
+// See docs/behaviours.md#units.
 #pragma once
 
 #include "ncappkit/export.h"

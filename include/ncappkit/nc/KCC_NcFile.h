@@ -38,6 +38,7 @@
 //
 // Copying a KCC_NcFile copies the two lists memberwise: the copies share their programs (see
 // KCC_NcFileProgramList).
+// See docs/behaviours.md#nc-files.
 #pragma once
 
 #include <string>
@@ -49,6 +50,7 @@
 #include "ncappkit/nc/KCC_NcFileProgram.h"
 #include "ncappkit/nc/KCC_NcFileProgramList.h"
 
+/// An NC file split into main programs and sub-programs, loaded from a file or a string list and saved again.
 class NCAPPKIT_EXPORT KCC_NcFile {
  public:
   /// The error codes of a load, as GetErrorCode gives them.
@@ -153,9 +155,10 @@ class NCAPPKIT_EXPORT KCC_NcFile {
   /// The error code of the last load (0 to 5, see the predicates).
   int GetErrorCode() const;
 
-  /// True when the first block recognised was Fanuc's (or none was).
+  /// True unless the last first-block marker recognised, by this or an earlier load, was Siemens' (a load
+  /// without a marker keeps the structure).
   bool IsFanucNcFileStructure() const;
-  /// True when the first block recognised was Siemens'.
+  /// True when the last first-block marker recognised, by this or an earlier load, was Siemens'.
   bool IsSiemensNcFileStructure() const;
 
  protected:

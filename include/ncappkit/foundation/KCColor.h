@@ -53,11 +53,12 @@ class NCAPPKIT_EXPORT KCColor {
   int m_alpha = 255;
 };
 
-#define NCAPPKIT_NAMED_COLOR(Name)                \
-  class NCAPPKIT_EXPORT Name : public KCColor {   \
-   public:                                        \
-    /** The named colour with the given alpha. */ \
-    explicit Name(int alpha = 255);               \
+#define NCAPPKIT_NAMED_COLOR(Name)                                                                        \
+  /** A named KCColor with the usual web colour value (red, green, blue beside its line in KCColor.h). */ \
+  class NCAPPKIT_EXPORT Name : public KCColor {                                                           \
+   public:                                                                                                \
+    /** The named colour with the given alpha. */                                                         \
+    explicit Name(int alpha = 255);                                                                       \
   };
 
 NCAPPKIT_NAMED_COLOR(KCColorAqua)         // 0, 255, 255

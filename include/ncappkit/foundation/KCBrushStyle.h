@@ -11,7 +11,10 @@
 class NCAPPKIT_EXPORT KCBrushStyle {
  public:
   /// The fill kinds.
-  enum class Kind { Solid = 0, Clear = 1 };
+  enum class Kind {
+    Solid = 0,  ///< filled ("Solid")
+    Clear = 1   ///< not filled ("Clear")
+  };
 
   /// Solid fill.
   KCBrushStyle() = default;

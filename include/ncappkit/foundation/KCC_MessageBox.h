@@ -99,32 +99,36 @@ class NCAPPKIT_EXPORT KCC_MessageBox : public KCI_MessageBox {
   // from the shared library.
   /// Button-set codes of the box's style (Windows MB_OK ... MB_RETRYCANCEL).
   enum ButtonType : std::int32_t {
-    kTypeOk = 0,
-    kTypeOkCancel = 1,
-    kTypeAbortRetryIgnore = 2,
-    kTypeYesNoCancel = 3,
-    kTypeYesNo = 4,
-    kTypeRetryCancel = 5
+    kTypeOk = 0,                ///< OK
+    kTypeOkCancel = 1,          ///< OK, Cancel
+    kTypeAbortRetryIgnore = 2,  ///< Abort, Retry, Ignore
+    kTypeYesNoCancel = 3,       ///< Yes, No, Cancel
+    kTypeYesNo = 4,             ///< Yes, No
+    kTypeRetryCancel = 5        ///< Retry, Cancel
   };
   /// Icon codes of the box's style (Windows MB_ICONSTOP ... MB_ICONINFORMATION).
   enum IconType : std::int32_t {
-    kIconStop = 0x10,
-    kIconQuestion = 0x20,
-    kIconExclamation = 0x30,
-    kIconInformation = 0x40
+    kIconStop = 0x10,         ///< stop (error) icon
+    kIconQuestion = 0x20,     ///< question-mark icon
+    kIconExclamation = 0x30,  ///< exclamation-mark icon
+    kIconInformation = 0x40   ///< information icon
   };
   /// Default-button codes of the box's style (Windows MB_DEFBUTTON1 ... MB_DEFBUTTON3).
-  enum DefaultButton : std::int32_t { kDefaultButton1 = 0, kDefaultButton2 = 0x100, kDefaultButton3 = 0x200 };
+  enum DefaultButton : std::int32_t {
+    kDefaultButton1 = 0,      ///< the first button
+    kDefaultButton2 = 0x100,  ///< the second button
+    kDefaultButton3 = 0x200   ///< the third button
+  };
   /// Answer codes (Windows IDOK ... IDNO), and the code of a box that has not been answered yet.
   enum ReturnCode : std::uint32_t {
-    kReturnOk = 1,
-    kReturnCancel = 2,
-    kReturnAbort = 3,
-    kReturnRetry = 4,
-    kReturnIgnore = 5,
-    kReturnYes = 6,
-    kReturnNo = 7,
-    kReturnNone = 0xFFFFFFFFu
+    kReturnOk = 1,             ///< OK
+    kReturnCancel = 2,         ///< Cancel
+    kReturnAbort = 3,          ///< Abort
+    kReturnRetry = 4,          ///< Retry
+    kReturnIgnore = 5,         ///< Ignore
+    kReturnYes = 6,            ///< Yes
+    kReturnNo = 7,             ///< No
+    kReturnNone = 0xFFFFFFFFu  ///< not answered yet
   };
 
   /// A box without owner window, empty texts, OK button, information icon, first button as default.

@@ -14,7 +14,12 @@
 class NCAPPKIT_EXPORT KCFontStyle {
  public:
   /// The styles; the values are bit positions in a KCFontStyles set.
-  enum class Kind { Bold = 0, Italic = 1, Underline = 2, StrikeOut = 3 };
+  enum class Kind {
+    Bold = 0,       ///< bold ("Bold")
+    Italic = 1,     ///< italic ("Italic")
+    Underline = 2,  ///< underlined ("Underline")
+    StrikeOut = 3   ///< struck out ("StrikeOut")
+  };
 
   /// A style of the given kind.
   explicit KCFontStyle(Kind kind) : m_kind(kind) {}

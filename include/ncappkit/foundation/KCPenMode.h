@@ -11,7 +11,10 @@
 class NCAPPKIT_EXPORT KCPenMode {
  public:
   /// The combination modes.
-  enum class Kind { Copy = 0, NotXor = 1 };
+  enum class Kind {
+    Copy = 0,   ///< the pen's colour replaces what is drawn
+    NotXor = 1  ///< NOT-XOR with what is drawn: drawing the same thing twice restores it
+  };
 
   /// Plain copy mode.
   KCPenMode() = default;

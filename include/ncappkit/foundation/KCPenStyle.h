@@ -16,7 +16,13 @@
 class NCAPPKIT_EXPORT KCPenStyle {
  public:
   /// The dash patterns a pen can have.
-  enum class Kind { Solid = 0, Dash = 1, Dot = 2, DashDot = 3, DashDotDot = 4 };
+  enum class Kind {
+    Solid = 0,      ///< an unbroken line ("Solid")
+    Dash = 1,       ///< dashes ("Dash")
+    Dot = 2,        ///< dots ("Dot")
+    DashDot = 3,    ///< dash, dot ("DashDot")
+    DashDotDot = 4  ///< dash, dot, dot ("DashDotDot")
+  };
 
   /// A solid pen.
   KCPenStyle() = default;

@@ -12,5 +12,9 @@
 class NCAPPKIT_EXPORT KCUnitMan {
  public:
   /// Distance units.
-  enum tevDistUnit { evDistMM = 0, evDistInch = 1, evDistMil = 2 };
+  enum tevDistUnit {
+    evDistMM = 0,    ///< millimetre
+    evDistInch = 1,  ///< inch
+    evDistMil = 2    ///< inch, shown in thousandths (mil)
+  };
 };

@@ -36,20 +36,20 @@ class NCAPPKIT_EXPORT CExpressionItem {
  public:
   /// Kind of item.
   enum eItemType : std::int32_t {
-    eItemUndefined = 0,
-    eItemOperand = 1,
-    eItemOperator = 2,
-    eItemOpenBracket = 3,
-    eItemCloseBracket = 4,
-    eItemFunction = 5
+    eItemUndefined = 0,     ///< a new item, not yet set
+    eItemOperand = 1,       ///< a number
+    eItemOperator = 2,      ///< an operator character
+    eItemOpenBracket = 3,   ///< '(' or '['
+    eItemCloseBracket = 4,  ///< ')' or ']'
+    eItemFunction = 5       ///< SQRT, SIN, COS or TAN
   };
   /// Function of a function item.
   enum eFunctionName : std::int32_t {
-    eFuncNone = 0,
-    eFuncSqrt = 1,
-    eFuncSin = 2,
-    eFuncCos = 3,
-    eFuncTan = 4
+    eFuncNone = 0,  ///< no function
+    eFuncSqrt = 1,  ///< square root
+    eFuncSin = 2,   ///< sine of radians
+    eFuncCos = 3,   ///< cosine of radians
+    eFuncTan = 4    ///< tangent of radians
   };
 
   /// An undefined item: value 0.0, operator blank, no function.

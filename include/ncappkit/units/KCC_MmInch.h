@@ -47,7 +47,11 @@
 class NCAPPKIT_EXPORT KCC_MmInch {
  public:
   /// The selection values.
-  enum eMmInchSel : std::int32_t { eMmInchUndef = 0, eMmInchMm = 1, eMmInchInch = 2 };
+  enum eMmInchSel : std::int32_t {
+    eMmInchUndef = 0,  ///< no unit chosen
+    eMmInchMm = 1,     ///< millimetres
+    eMmInchInch = 2    ///< inches
+  };
 
   /// Millimetres per inch.
   static constexpr double kMmPerInch = 25.4;

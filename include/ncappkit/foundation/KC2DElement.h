@@ -46,6 +46,7 @@ using KC2DPointList = std::vector<KC2DPoint>;
 /// Visitor over the kinds of 2D element; Accept calls the Visit of the element's kind.
 class NCAPPKIT_EXPORT KC2DElementVisitor {
  public:
+  /// Nothing to set up: the class holds no data.
   KC2DElementVisitor() = default;
   /// Nothing to copy: the class holds no data.
   KC2DElementVisitor(const KC2DElementVisitor&) = default;
@@ -66,6 +67,7 @@ class NCAPPKIT_EXPORT KC2DElementVisitor {
 /// Abstract 2D drawing element: measured, walked along, transformed in place, stored in a KCParagraph.
 class NCAPPKIT_EXPORT KC2DElement {
  public:
+  /// Nothing to set up: the class holds no data.
   KC2DElement() = default;
   /// Nothing to copy: the class holds no data.
   KC2DElement(const KC2DElement&) = default;

@@ -50,10 +50,12 @@ class NCAPPKIT_EXPORT KCBrushStyle {
 /// Solid fill.
 class NCAPPKIT_EXPORT KCBrushStyleSolid : public KCBrushStyle {
  public:
+  /// A solid fill.
   KCBrushStyleSolid() : KCBrushStyle(Kind::Solid) {}
 };
 /// No fill.
 class NCAPPKIT_EXPORT KCBrushStyleClear : public KCBrushStyle {
  public:
+  /// No fill.
   KCBrushStyleClear() : KCBrushStyle(Kind::Clear) {}
 };

@@ -34,6 +34,7 @@
 /// IsOk, IsRetry, IsYes, DoModal.
 class NCAPPKIT_EXPORT KCI_MessageBox : public KCC_MessageReporter {
  public:
+  /// Nothing to set up: the class holds no data.
   KCI_MessageBox() = default;
   /// Nothing to copy: the class holds no data.
   KCI_MessageBox(const KCI_MessageBox&) = default;

@@ -23,6 +23,7 @@
 /// SetMessage, AddMessage, DoReport, ClearMessage.
 class NCAPPKIT_EXPORT KCI_MessageReporter {
  public:
+  /// Nothing to set up: the class holds no data.
   KCI_MessageReporter() = default;
   /// Nothing to copy: the class holds no data.
   KCI_MessageReporter(const KCI_MessageReporter&) = default;
@@ -45,6 +46,7 @@ class NCAPPKIT_EXPORT KCI_MessageReporter {
 /// The reporter type that clients and other classes hold by reference; still abstract.
 class NCAPPKIT_EXPORT KCC_MessageReporter : public KCI_MessageReporter {
  public:
+  /// Nothing to set up: the class holds no data.
   KCC_MessageReporter() = default;
   /// Nothing to copy: the class holds no data.
   KCC_MessageReporter(const KCC_MessageReporter&) = default;
@@ -67,6 +69,7 @@ class NCAPPKIT_EXPORT KCC_MessageReporter : public KCI_MessageReporter {
 /// The silent reporter: every operation does nothing at all and no text is kept.
 class NCAPPKIT_EXPORT KCC_MessageNone : public KCC_MessageReporter {
  public:
+  /// Nothing to set up: the class holds no data.
   KCC_MessageNone() = default;
   /// Nothing to copy: the class holds no data.
   KCC_MessageNone(const KCC_MessageNone&) = default;

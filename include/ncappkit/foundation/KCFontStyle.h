@@ -44,21 +44,25 @@ class NCAPPKIT_EXPORT KCFontStyle {
 /// Bold.
 class NCAPPKIT_EXPORT KCFontStyleBold : public KCFontStyle {
  public:
+  /// The bold style.
   KCFontStyleBold() : KCFontStyle(Kind::Bold) {}
 };
 /// Italic.
 class NCAPPKIT_EXPORT KCFontStyleItalic : public KCFontStyle {
  public:
+  /// The italic style.
   KCFontStyleItalic() : KCFontStyle(Kind::Italic) {}
 };
 /// Underlined.
 class NCAPPKIT_EXPORT KCFontStyleUnderline : public KCFontStyle {
  public:
+  /// The underline style.
   KCFontStyleUnderline() : KCFontStyle(Kind::Underline) {}
 };
 /// Struck out.
 class NCAPPKIT_EXPORT KCFontStyleStrikeOut : public KCFontStyle {
  public:
+  /// The strike-out style.
   KCFontStyleStrikeOut() : KCFontStyle(Kind::StrikeOut) {}
 };
 

@@ -31,6 +31,7 @@ class NCAPPKIT_EXPORT KCGeometry {
   /// Distance within which a point counts as lying on a segment or at its end.
   static constexpr double kOnLineTolerance = 1e-9;
 
+  /// Nothing to set up: the class holds no data.
   KCGeometry() = default;
   /// Nothing to copy: the class holds no data.
   KCGeometry(const KCGeometry&) = default;

@@ -18,6 +18,7 @@
 /// A message form that the client implements and draws itself.
 class NCAPPKIT_EXPORT KCI_FrmMessageBox {
  public:
+  /// Nothing to set up: the class holds no data.
   KCI_FrmMessageBox() = default;
   /// Nothing to copy: the class holds no data.
   KCI_FrmMessageBox(const KCI_FrmMessageBox&) = default;

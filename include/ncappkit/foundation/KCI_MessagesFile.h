@@ -17,6 +17,7 @@
 /// A source of message texts by section and key, implemented by the client.
 class NCAPPKIT_EXPORT KCI_MessagesFile {
  public:
+  /// Nothing to set up: the class holds no data.
   KCI_MessagesFile() = default;
   /// Nothing to copy: the class holds no data.
   KCI_MessagesFile(const KCI_MessagesFile&) = default;

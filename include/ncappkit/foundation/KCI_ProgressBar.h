@@ -20,6 +20,7 @@
 /// A progress display implemented by the client, which can also show a message.
 class NCAPPKIT_EXPORT KCI_ProgressBar {
  public:
+  /// Nothing to set up: the class holds no data.
   KCI_ProgressBar() = default;
   /// Nothing to copy: the class holds no data.
   KCI_ProgressBar(const KCI_ProgressBar&) = default;

@@ -41,5 +41,6 @@ class NCAPPKIT_EXPORT KCPenMode {
 /// NOT-XOR pen mode: drawing the same thing twice restores the background.
 class NCAPPKIT_EXPORT KCPenModeNotXor : public KCPenMode {
  public:
+  /// The NOT-XOR mode.
   KCPenModeNotXor() : KCPenMode(Kind::NotXor) {}
 };

@@ -54,25 +54,30 @@ class NCAPPKIT_EXPORT KCPenStyle {
 /// Solid pen.
 class NCAPPKIT_EXPORT KCPenStyleSolid : public KCPenStyle {
  public:
+  /// A solid pen style.
   KCPenStyleSolid() : KCPenStyle(Kind::Solid) {}
 };
 /// Dashed pen.
 class NCAPPKIT_EXPORT KCPenStyleDash : public KCPenStyle {
  public:
+  /// A dashed pen style.
   KCPenStyleDash() : KCPenStyle(Kind::Dash) {}
 };
 /// Dotted pen.
 class NCAPPKIT_EXPORT KCPenStyleDot : public KCPenStyle {
  public:
+  /// A dotted pen style.
   KCPenStyleDot() : KCPenStyle(Kind::Dot) {}
 };
 /// Dash-dot pen.
 class NCAPPKIT_EXPORT KCPenStyleDashDot : public KCPenStyle {
  public:
+  /// A dash-dot pen style.
   KCPenStyleDashDot() : KCPenStyle(Kind::DashDot) {}
 };
 /// Dash-dot-dot pen.
 class NCAPPKIT_EXPORT KCPenStyleDashDotDot : public KCPenStyle {
  public:
+  /// A dash-dot-dot pen style.
   KCPenStyleDashDotDot() : KCPenStyle(Kind::DashDotDot) {}
 };

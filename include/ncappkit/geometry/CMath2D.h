@@ -345,6 +345,7 @@ class NCAPPKIT_EXPORT CMath2D {
 
   // ----- the toolbox itself holds nothing -------------------------------------------------------------
 
+  /// Nothing to set up: the class holds no data.
   CMath2D() = default;
   /// Nothing to copy: the class holds no data.
   CMath2D(const CMath2D&) = default;

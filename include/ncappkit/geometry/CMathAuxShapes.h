@@ -173,6 +173,7 @@ class NCAPPKIT_EXPORT CMathAuxShapes {
     void SetCenterY(double y) override { SetYPos(y); }
   };
 
+  /// Nothing to set up: the class holds no data.
   CMathAuxShapes() = default;
   /// Nothing to copy: the class holds no data.
   CMathAuxShapes(const CMathAuxShapes&) = default;

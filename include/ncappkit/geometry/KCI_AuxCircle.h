@@ -14,6 +14,7 @@
 /// Abstract access to a full construction circle: its centre and radius.
 class NCAPPKIT_EXPORT KCI_AuxCircle {
  public:
+  /// Nothing to set up: the class holds no data.
   KCI_AuxCircle() = default;
   /// Nothing to copy: the class holds no data.
   KCI_AuxCircle(const KCI_AuxCircle&) = default;

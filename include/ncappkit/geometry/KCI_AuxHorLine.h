@@ -13,6 +13,7 @@
 /// Abstract access to an infinite horizontal construction line y = pos.
 class NCAPPKIT_EXPORT KCI_AuxHorLine {
  public:
+  /// Nothing to set up: the class holds no data.
   KCI_AuxHorLine() = default;
   /// Nothing to copy: the class holds no data.
   KCI_AuxHorLine(const KCI_AuxHorLine&) = default;

@@ -14,6 +14,7 @@
 /// Abstract access to an infinite construction line through a point at an angle in degrees.
 class NCAPPKIT_EXPORT KCI_AuxLine {
  public:
+  /// Nothing to set up: the class holds no data.
   KCI_AuxLine() = default;
   /// Nothing to copy: the class holds no data.
   KCI_AuxLine(const KCI_AuxLine&) = default;

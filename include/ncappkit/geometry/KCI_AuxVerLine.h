@@ -13,6 +13,7 @@
 /// Abstract access to an infinite vertical construction line x = pos.
 class NCAPPKIT_EXPORT KCI_AuxVerLine {
  public:
+  /// Nothing to set up: the class holds no data.
   KCI_AuxVerLine() = default;
   /// Nothing to copy: the class holds no data.
   KCI_AuxVerLine(const KCI_AuxVerLine&) = default;

@@ -22,6 +22,7 @@ class NCAPPKIT_EXPORT KCI_d2DArc {
     eArcCCW = 2        ///< counter-clockwise
   };
 
+  /// Nothing to set up: the class holds no data.
   KCI_d2DArc() = default;
   /// Nothing to copy: the class holds no data.
   KCI_d2DArc(const KCI_d2DArc&) = default;

@@ -14,6 +14,7 @@
 /// Abstract access to a horizontal line segment: its y position and the x of its two ends.
 class NCAPPKIT_EXPORT KCI_d2DHorLine {
  public:
+  /// Nothing to set up: the class holds no data.
   KCI_d2DHorLine() = default;
   /// Nothing to copy: the class holds no data.
   KCI_d2DHorLine(const KCI_d2DHorLine&) = default;

@@ -14,6 +14,7 @@
 /// Abstract access to a line segment with double coordinates.
 class NCAPPKIT_EXPORT KCI_d2DLine {
  public:
+  /// Nothing to set up: the class holds no data.
   KCI_d2DLine() = default;
   /// Nothing to copy: the class holds no data.
   KCI_d2DLine(const KCI_d2DLine&) = default;

@@ -14,6 +14,7 @@
 /// Abstract access to a 2D point with double coordinates.
 class NCAPPKIT_EXPORT KCI_d2DPoint {
  public:
+  /// Nothing to set up: the class holds no data.
   KCI_d2DPoint() = default;
   /// Nothing to copy: the class holds no data.
   KCI_d2DPoint(const KCI_d2DPoint&) = default;

@@ -14,6 +14,7 @@
 /// Abstract access to a vertical line segment: its x position and the y of its two ends.
 class NCAPPKIT_EXPORT KCI_d2DVerLine {
  public:
+  /// Nothing to set up: the class holds no data.
   KCI_d2DVerLine() = default;
   /// Nothing to copy: the class holds no data.
   KCI_d2DVerLine(const KCI_d2DVerLine&) = default;

@@ -14,6 +14,7 @@
 /// Abstract access to a line segment with int coordinates.
 class NCAPPKIT_EXPORT KCI_i2DLine {
  public:
+  /// Nothing to set up: the class holds no data.
   KCI_i2DLine() = default;
   /// Nothing to copy: the class holds no data.
   KCI_i2DLine(const KCI_i2DLine&) = default;

@@ -14,6 +14,7 @@
 /// Abstract access to a 2D point with int coordinates.
 class NCAPPKIT_EXPORT KCI_i2DPoint {
  public:
+  /// Nothing to set up: the class holds no data.
   KCI_i2DPoint() = default;
   /// Nothing to copy: the class holds no data.
   KCI_i2DPoint(const KCI_i2DPoint&) = default;

@@ -17,6 +17,7 @@ class KCC_NcFileProgram;
 /// Visitor over the programs of an NC file.
 class NCAPPKIT_EXPORT KCC_NcFileProgramVisitor {
  public:
+  /// Nothing to set up: the class holds no data.
   KCC_NcFileProgramVisitor() = default;
   /// Nothing to copy: the class holds no data.
   KCC_NcFileProgramVisitor(const KCC_NcFileProgramVisitor&) = default;

@@ -19,21 +19,35 @@ namespace ncappkit_detail {
 
 /// Index of the first byte in [from, to) equal to `a` or `b`; `to` when there is none.
 inline std::size_t FindEitherChar(const char* p, std::size_t from, std::size_t to, char a, char b) noexcept {
+  std::size_t i = from;
+#if defined(__GNUC__) && defined(__BYTE_ORDER__) && __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__
+  // Eight bytes per step. The high bit of each byte of the mask is set exactly where the byte equals `a` or
+  // `b` (no false hits), so the lowest set bit names the first match.
   constexpr std::uint64_t kOnes = 0x0101010101010101ull;
-  constexpr std::uint64_t kHighBits = 0x8080808080808080ull;
+  constexpr std::uint64_t kLow7 = 0x7F7F7F7F7F7F7F7Full;
   const std::uint64_t aa = kOnes * static_cast<unsigned char>(a);
   const std::uint64_t bb = kOnes * static_cast<unsigned char>(b);
-  std::size_t i = from;
-  // A word holding neither byte is skipped whole; a word that may hold one (the zero-byte test can report a
-  // false hit above a true one, never miss one) is searched byte by byte.
-  for (; i + 8 <= to; i += 8) {
+  auto matches = [&](std::size_t at) {
     std::uint64_t word = 0;
-    std::memcpy(&word, p + i, 8);
+    std::memcpy(&word, p + at, 8);
     const std::uint64_t xa = word ^ aa;
     const std::uint64_t xb = word ^ bb;
-    if ((((xa - kOnes) & ~xa) | ((xb - kOnes) & ~xb)) & kHighBits)
-      break;
+    const std::uint64_t za = ~(((xa & kLow7) + kLow7) | xa | kLow7);
+    const std::uint64_t zb = ~(((xb & kLow7) + kLow7) | xb | kLow7);
+    return za | zb;
+  };
+  for (; i + 8 <= to; i += 8) {
+    const std::uint64_t m = matches(i);
+    if (m != 0)
+      return i + static_cast<std::size_t>(__builtin_ctzll(m)) / 8;
   }
+  if (i < to && to >= 8) {
+    // The rest: the last eight bytes of the range, without those before i.
+    const std::size_t base = to - 8;
+    const std::uint64_t m = matches(base) >> ((i - base) * 8);
+    return m != 0 ? i + static_cast<std::size_t>(__builtin_ctzll(m)) / 8 : to;
+  }
+#endif
   for (; i < to; ++i) {
     if (p[i] == a || p[i] == b)
       return i;

@@ -31,7 +31,9 @@ class NckitTest : public ::testing::Test {
     return RunChild(argv, timeoutSeconds);
   }
 
-  /// The bundled Fanuc sample: two main programs and four sub-programs.
+  /// The bundled Fanuc sample: with the first block looked for (nckit's default) three main programs, the
+  /// first of them O0001 (JOB), which calls M98 P8010 and ends with M99, and three sub-programs; without
+  /// it two main programs and four sub-programs.
   static std::string FanucSample() { return std::string(NCAPPKIT_SOURCE_DIR) + "/samples/fanuc_programs.nc"; }
   /// The bundled Siemens sample.
   static std::string SiemensSample() {

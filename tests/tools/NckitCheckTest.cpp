@@ -26,8 +26,14 @@ class NckitCheck : public NckitTest {};
 TEST_F(NckitCheck, CleanFilePasses) {
   const ChildResult r = Run({"check", FanucSample()});
   EXPECT_EQ(r.exitCode, 0);
-  EXPECT_EQ(r.out, FanucSample() + ": ok, 2 main and 4 sub-programs\n");
+  EXPECT_EQ(r.out, FanucSample() + ": ok, 3 main and 3 sub-programs\n");
   EXPECT_EQ(r.err, "");
+}
+
+TEST_F(NckitCheck, NoFirstBlockCountsTheCallingProgramAsASubProgram) {
+  const ChildResult r = Run({"check", FanucSample(), "--no-first-block"});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(r.out, FanucSample() + ": ok, 2 main and 4 sub-programs\n");
 }
 
 TEST_F(NckitCheck, EachDuplicateNumberIsOneLine) {

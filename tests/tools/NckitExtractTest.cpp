@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "ncappkit/nc/KCC_NcFile.h"
 #include "support/NckitFixture.h"
 #include "support/PlatformText.h"
 #include "support/TempDir.h"
@@ -12,6 +13,9 @@
 namespace {
 
 class NckitExtract : public NckitTest {};
+
+// O1 calls the first block and ends with M99, after the sub-program O9.
+const char* const kFirstBlockAfterASubProgram = "O9\nM99\nO1\nM98 P8010\nM99\nO8010\nM99\n";
 
 const char* const kSetupAndPocket =
     "%\nO8010 (SETUP)\nN10 G21 G90 G17 G54\nN20 G28 G91 Z0\nN30 M99\n"
@@ -108,4 +112,74 @@ TEST_F(NckitExtract, OptionsMayComeBeforeTheFile) {
   const ChildResult r = Run({"extract", "--first-block", FanucSample(), "8010", "8020"});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_EQ(r.out, kSetupAndPocket);
+}
+
+struct OrderRow {
+  const char* name;
+  std::vector<std::string> options;
+  const char* out;
+};
+
+class NckitExtractOrder : public NckitParamTest<OrderRow> {};
+
+TEST_P(NckitExtractOrder, WritesTheFirstBlocksProgramAsAMainProgram) {
+  TempDir dir;
+  const std::string input = dir.WriteFile("in.nc", kFirstBlockAfterASubProgram);
+  std::vector<std::string> args = {"extract", input, "9", "1"};
+  args.insert(args.end(), GetParam().options.begin(), GetParam().options.end());
+  const ChildResult r = Run(args);
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(r.out, GetParam().out);
+}
+
+INSTANTIATE_TEST_SUITE_P(Options, NckitExtractOrder,
+                         ::testing::Values(OrderRow{"ByDefault", {}, "%\nO1\nM98 P8010\nM99\nO9\nM99\n%\n"},
+                                           OrderRow{"NotWithNoFirstBlock",
+                                                    {"--no-first-block"},
+                                                    "%\nO9\nM99\nO1\nM98 P8010\nM99\n%\n"}),
+                         NckitRowName());
+
+struct LongLineRow {
+  const char* name;
+  bool toFile;
+};
+
+class NckitExtractLongLine : public NckitParamTest<LongLineRow> {};
+
+TEST_P(NckitExtractLongLine, WarnsThatTheTextReadsBackOnlyWithoutTheLineLimit) {
+  TempDir dir;
+  const std::string longLine = std::string(KCC_NcFile::kMaxLineLength + 1, 'X');
+  const std::string input = dir.WriteFile("in.nc", "O1\n" + longLine + "\nM30\n");
+  const std::string target = GetParam().toFile ? dir.Path("out.nc") : "standard output";
+  std::vector<std::string> args = {"extract", input, "1", "--no-line-limit"};
+  if (GetParam().toFile) {
+    args.push_back("-o");
+    args.push_back(target);
+  }
+  const ChildResult r = Run(args);
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(r.err, "nckit extract: " + target + ": warning: line 3 has " + std::to_string(longLine.size()) +
+                       " characters, more than the reader's " + std::to_string(KCC_NcFile::kMaxLineLength) +
+                       "; read the file back with --no-line-limit\n");
+}
+
+INSTANTIATE_TEST_SUITE_P(Targets, NckitExtractLongLine,
+                         ::testing::Values(LongLineRow{"ToStandardOutput", false},
+                                           LongLineRow{"ToAFile", true}),
+                         NckitRowName());
+
+TEST_F(NckitExtract, LinesOfTheReadersLengthGiveNoWarning) {
+  TempDir dir;
+  const std::string input =
+      dir.WriteFile("in.nc", "O1\n" + std::string(KCC_NcFile::kMaxLineLength, 'X') + "\nM30\n");
+  const ChildResult r = Run({"extract", input, "1", "-o", dir.Path("out.nc")});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(r.err, "");
+}
+
+TEST_F(NckitExtract, HelpSaysTheFirstBlockIsLookedFor) {
+  const ChildResult r = Run({"extract", "--help"});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_NE(r.out.find("looks for the first block by default"), std::string::npos) << r.out;
+  EXPECT_NE(r.out.find("--no-first-block"), std::string::npos);
 }

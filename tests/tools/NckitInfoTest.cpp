@@ -21,20 +21,55 @@ TEST_F(NckitInfo, ListsTheProgramsOfTheFanucSample) {
   EXPECT_EQ(r.err, "");
   EXPECT_NE(r.out.find("structure:  Fanuc\n"), std::string::npos);
   EXPECT_NE(r.out.find("load:       no error\n"), std::string::npos);
-  EXPECT_NE(r.out.find("programs:   2 main, 4 sub\n"), std::string::npos);
+  EXPECT_NE(r.out.find("programs:   3 main, 3 sub\n"), std::string::npos);
+  EXPECT_NE(r.out.find("main  0001    JOB            5        "), std::string::npos) << r.out;
   EXPECT_NE(r.out.find("main  1000    PLATE 200X100  8        115\n"), std::string::npos);
   EXPECT_NE(r.out.find("sub   8030    DRILL CYCLE    8        130\n"), std::string::npos);
 }
 
-TEST_F(NckitInfo, FirstBlockMakesTheCallingProgramAMainProgram) {
-  const ChildResult r = Run({"info", FanucSample(), "--first-block"});
+struct FirstBlockRow {
+  const char* name;
+  std::vector<std::string> options;
+  const char* programs;  // the "programs:" line for the Fanuc sample
+  const char* job;       // the start of the JOB program's row
+};
+
+class NckitInfoFirstBlock : public NckitParamTest<FirstBlockRow> {};
+
+TEST_P(NckitInfoFirstBlock, DecidesWhetherTheCallingProgramIsAMainProgram) {
+  std::vector<std::string> args = {"info", FanucSample()};
+  args.insert(args.end(), GetParam().options.begin(), GetParam().options.end());
+  const ChildResult r = Run(args);
   EXPECT_EQ(r.exitCode, 0);
-  EXPECT_NE(r.out.find("programs:   3 main, 3 sub\n"), std::string::npos);
-  EXPECT_NE(r.out.find("main  0001    JOB"), std::string::npos);
+  EXPECT_NE(r.out.find(GetParam().programs), std::string::npos) << r.out;
+  EXPECT_NE(r.out.find(GetParam().job), std::string::npos) << r.out;
 }
 
+INSTANTIATE_TEST_SUITE_P(Options, NckitInfoFirstBlock,
+                         ::testing::Values(FirstBlockRow{"LookedForByDefault",
+                                                         {},
+                                                         "programs:   3 main, 3 sub\n",
+                                                         "main  0001    JOB"},
+                                           FirstBlockRow{"FirstBlockOptionIsTheDefault",
+                                                         {"--first-block"},
+                                                         "programs:   3 main, 3 sub\n",
+                                                         "main  0001    JOB"},
+                                           FirstBlockRow{"NoFirstBlockTurnsItOff",
+                                                         {"--no-first-block"},
+                                                         "programs:   2 main, 4 sub\n",
+                                                         "sub   0001    JOB"},
+                                           FirstBlockRow{"NoFirstBlockWinsWhenGivenFirst",
+                                                         {"--no-first-block", "--first-block"},
+                                                         "programs:   2 main, 4 sub\n",
+                                                         "sub   0001    JOB"},
+                                           FirstBlockRow{"NoFirstBlockWinsWhenGivenLast",
+                                                         {"--first-block", "--no-first-block"},
+                                                         "programs:   2 main, 4 sub\n",
+                                                         "sub   0001    JOB"}),
+                         NckitRowName());
+
 TEST_F(NckitInfo, RecognisesTheSiemensStructure) {
-  const ChildResult r = Run({"info", SiemensSample(), "--first-block"});
+  const ChildResult r = Run({"info", SiemensSample()});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_NE(r.out.find("structure:  Siemens\n"), std::string::npos);
   EXPECT_NE(r.out.find("programs:   1 main, 1 sub\n"), std::string::npos);
@@ -179,6 +214,15 @@ TEST_F(NckitInfo, HelpDescribesTheOptions) {
   EXPECT_EQ(r.out.rfind("usage: nckit info FILE", 0), 0u);
   EXPECT_NE(r.out.find("--no-line-limit"), std::string::npos);
   EXPECT_NE(r.out.find("--json"), std::string::npos);
+}
+
+TEST_F(NckitInfo, HelpSaysTheFirstBlockOptionIsTheDefault) {
+  const ChildResult r = Run({"info", "--help"});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_NE(r.out.find("  --no-first-block   do not look for the first block"), std::string::npos) << r.out;
+  EXPECT_NE(r.out.find("  --first-block      look for the first block: the default, so this does nothing"),
+            std::string::npos)
+      << r.out;
 }
 
 TEST_F(NckitInfo, BinaryGarbageGivesALoadErrorNotACrash) {

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "ncappkit/nc/KCC_NcFile.h"
 #include "support/NckitFixture.h"
 #include "support/PlatformText.h"
 #include "support/TempDir.h"
@@ -83,4 +84,42 @@ TEST_F(NckitRemove, DirectoryAsOutputIsAUsageError) {
   const ChildResult r = Run({"remove", input, "1", "-o", dir.Path()});
   EXPECT_EQ(r.exitCode, 2);
   EXPECT_EQ(r.err, "nckit remove: " + dir.Path() + ": is a directory; -o names the file to write\n");
+}
+
+struct OrderRow {
+  const char* name;
+  std::vector<std::string> options;
+  const char* written;
+};
+
+class NckitRemoveOrder : public NckitParamTest<OrderRow> {};
+
+TEST_P(NckitRemoveOrder, WritesTheFirstBlocksProgramAsAMainProgram) {
+  TempDir dir;
+  // O1 calls the first block and ends with M99, after the sub-program O9.
+  const std::string input = dir.WriteFile("in.nc", "O9\nM99\nO1\nM98 P8010\nM99\nO8010\nM99\n");
+  std::vector<std::string> args = {"remove", input, "8010", "-o", dir.Path("out.nc")};
+  args.insert(args.end(), GetParam().options.begin(), GetParam().options.end());
+  const ChildResult r = Run(args);
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(dir.ReadFile("out.nc"), PlatformText(GetParam().written));
+}
+
+INSTANTIATE_TEST_SUITE_P(Options, NckitRemoveOrder,
+                         ::testing::Values(OrderRow{"ByDefault", {}, "%\nO1\nM98 P8010\nM99\nO9\nM99\n%\n"},
+                                           OrderRow{"NotWithNoFirstBlock",
+                                                    {"--no-first-block"},
+                                                    "%\nO9\nM99\nO1\nM98 P8010\nM99\n%\n"}),
+                         NckitRowName());
+
+TEST_F(NckitRemove, WarnsAboutLinesTooLongToReadBack) {
+  TempDir dir;
+  const std::string longLine = std::string(KCC_NcFile::kMaxLineLength + 1, 'X');
+  const std::string input = dir.WriteFile("in.nc", "O1\n" + longLine + "\nM30\nO2\nM30\n");
+  const ChildResult r = Run({"remove", input, "2", "-o", dir.Path("out.nc"), "--no-line-limit"});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(r.err, "nckit remove: " + dir.Path("out.nc") + ": warning: line 3 has " +
+                       std::to_string(longLine.size()) + " characters, more than the reader's " +
+                       std::to_string(KCC_NcFile::kMaxLineLength) +
+                       "; read the file back with --no-line-limit\n");
 }

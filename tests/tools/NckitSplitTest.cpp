@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "ncappkit/nc/KCC_NcFile.h"
 #include "support/NckitFixture.h"
 #include "support/PlatformText.h"
 #include "support/TempDir.h"
@@ -109,4 +110,73 @@ TEST_F(NckitSplit, TargetThatIsADirectoryStopsTheSplitBeforeAnyWrite) {
   EXPECT_EQ(r.err, "nckit split: " + target + " is a directory; remove it or choose another directory\n");
   EXPECT_EQ(r.out, "");
   EXPECT_FALSE(dir.Exists("parts/O1000.nc"));
+}
+
+TEST_F(NckitSplit, ListsTheProgramThatCallsTheFirstBlockFirst) {
+  TempDir dir;
+  const ChildResult r = Run({"split", FanucSample(), "-o", dir.Path("parts")});
+  EXPECT_EQ(r.exitCode, 0);
+  const std::string first = (std::filesystem::path(dir.Path("parts")) / "O0001.nc").string();
+  EXPECT_EQ(r.out.rfind(first + "\n", 0), 0u) << r.out;
+}
+
+struct EmptyProgramRow {
+  const char* name;
+  const char* text;
+  std::vector<std::string> options;
+};
+
+class NckitSplitEmptyProgram : public NckitParamTest<EmptyProgramRow> {};
+
+TEST_P(NckitSplitEmptyProgram, GetsNoFileAndAWarning) {
+  TempDir dir;
+  const std::string input = dir.WriteFile("in.nc", GetParam().text);
+  std::vector<std::string> args = {"split", input, "-o", dir.Path("out")};
+  args.insert(args.end(), GetParam().options.begin(), GetParam().options.end());
+  const ChildResult r = Run(args);
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(r.err, "nckit split: " + input +
+                       ": warning: a program without number has no lines; no file "
+                       "written for it\n");
+  EXPECT_FALSE(dir.Exists("out/unnumbered_1.nc"));
+  EXPECT_TRUE(dir.Exists("out/O0001.nc"));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Files, NckitSplitEmptyProgram,
+    ::testing::Values(EmptyProgramRow{"KeptUnfinishedAfterTheLastEnd", "O1\nM30\n", {"--keep-unfinished"}},
+                      EmptyProgramRow{"LeftPendingAfterASubProgramMetM30", "O1\nM99\nM30\nO2\nM30\n", {}}),
+    NckitRowName());
+
+TEST_F(NckitSplit, EmptyProgramTakesNoUnnumberedName) {
+  TempDir dir;
+  // Sub-programs: the empty one filed at O2, then G1 / M99.
+  const std::string input = dir.WriteFile("in.nc", "O1\nM99\nM30\nO2\nM30\nG1\nM99\n");
+  const ChildResult r = Run({"split", input, "-o", dir.Path("out")});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(dir.ReadFile("out/unnumbered_1.nc"), PlatformText("%\nG1\nM99\n%\n"));
+  EXPECT_FALSE(dir.Exists("out/unnumbered_2.nc"));
+}
+
+TEST_F(NckitSplit, WarnsAboutLinesTooLongToReadBack) {
+  TempDir dir;
+  const std::string longLine = "(" + std::string(KCC_NcFile::kMaxLineLength, 'C') + ")";
+  const std::string input = dir.WriteFile("in.nc", "O1\nM30\nO2\n" + longLine + "\n" + longLine + "\nM30\n");
+  const ChildResult r = Run({"split", input, "-o", dir.Path("out"), "--no-line-limit"});
+  EXPECT_EQ(r.exitCode, 0);
+  const std::string target = (std::filesystem::path(dir.Path("out")) / "O0002.nc").string();
+  EXPECT_EQ(r.err, "nckit split: " + target + ": warning: line 3 has " + std::to_string(longLine.size()) +
+                       " characters, more than the reader's " + std::to_string(KCC_NcFile::kMaxLineLength) +
+                       " (1 more such line); read the file back with --no-line-limit\n");
+  EXPECT_EQ(dir.ReadFile("out/O0002.nc"),
+            PlatformText("%\nO2\n" + longLine + "\n" + longLine + "\nM30\n%\n"));
+}
+
+TEST_F(NckitSplit, LinesOfTheReadersLengthGiveNoWarning) {
+  TempDir dir;
+  const std::string input =
+      dir.WriteFile("in.nc", "O1\n" + std::string(KCC_NcFile::kMaxLineLength, 'X') + "\nM30\n");
+  const ChildResult r = Run({"split", input, "-o", dir.Path("out")});
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(r.err, "");
 }

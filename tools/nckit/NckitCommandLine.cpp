@@ -52,6 +52,10 @@ struct NckitCommandLine::Impl {
   std::set<std::string> valueNames;
   std::vector<std::string>* operands = nullptr;
   bool stopAtFirstOperand = false;
+  // LoadOptions: the options to fill, and the two first-block flags until the parse is done.
+  NcLoadOptions* load = nullptr;
+  bool firstBlock = false;
+  bool noFirstBlock = false;
 
   Impl(const std::string& command, std::string usageText, std::string descriptionText)
       : program(command.empty() ? "nckit" : "nckit " + command),
@@ -145,9 +149,13 @@ void NckitCommandLine::Operands(const std::string& name, std::vector<std::string
 }
 
 void NckitCommandLine::LoadOptions(NcLoadOptions& options) {
-  Flag("--first-block", options.checkFirstBlock,
-       "recognise the first block (M98 P8010 / N50 FIRST_BLOCK): its program is a main\n"
-       "program and it tells the structure (Fanuc / Siemens)");
+  m_impl->load = &options;
+  Flag("--no-first-block", m_impl->noFirstBlock,
+       "do not look for the first block (M98 P8010 / N50 FIRST_BLOCK), whose program is\n"
+       "otherwise a main program and which tells the structure (Fanuc / Siemens)");
+  Flag("--first-block", m_impl->firstBlock,
+       "look for the first block: the default, so this does nothing; accepted so that\n"
+       "existing scripts keep working (--no-first-block wins over it)");
   Flag("--keep-unfinished", options.keepUnfinished,
        "keep the lines after the last program end as a program of the sub-program list");
   Flag("--no-line-limit", options.noLineLimit,
@@ -191,6 +199,8 @@ std::optional<int> NckitCommandLine::Parse(const NckitArgs& args, std::ostream& 
   }
   if (m_impl->stopAtFirstOperand && m_impl->operands != nullptr)
     *m_impl->operands = std::move(arranged.rest);
+  if (m_impl->load != nullptr && m_impl->noFirstBlock)
+    m_impl->load->checkFirstBlock = false;
   return std::nullopt;
 }
 

@@ -27,9 +27,10 @@
 
 #include "NckitCommand.h"
 
-/// The options every file-reading subcommand accepts.
+/// The options every file-reading subcommand accepts. The first block is looked for unless
+/// --no-first-block is given.
 struct NcLoadOptions {
-  bool checkFirstBlock = false;
+  bool checkFirstBlock = true;
   bool keepUnfinished = false;
   bool noLineLimit = false;
 };
@@ -50,7 +51,8 @@ class NckitCommandLine {
               const std::string& help);
   /// The operands (arguments that are no options), in the order given.
   void Operands(const std::string& name, std::vector<std::string>& operands);
-  /// --first-block, --keep-unfinished and --no-line-limit.
+  /// --no-first-block, --first-block (the default, accepted for existing scripts), --keep-unfinished and
+  /// --no-line-limit. --no-first-block wins over --first-block wherever the two stand.
   void LoadOptions(NcLoadOptions& options);
   /// The first operand and every argument after it are left unparsed and become the operands: nckit's own
   /// options come before the subcommand's name, the subcommand parses the rest.

@@ -3,6 +3,8 @@
 //
 //   nckit block 'N10 G01 X-12.5 Y0.25 F300 M03'
 //   nckit block 'G17 G90 G00' --json
+//   nckit block 'X5 ; X99'       # X 599, and a warning that ';' does not end the block
+#include <algorithm>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -44,7 +46,9 @@ bool HasVWord(const std::string& block) {
   return false;
 }
 
-std::vector<Word> DecodedWords(const KCC_ParseNc& p, const std::string& block) {
+// Every getter's answer for the last decoded block, in the parser's address order; V as GetVCommand gives
+// it, which is whenever the block had an X word.
+std::vector<Word> GetterWords(const KCC_ParseNc& p) {
   std::vector<Word> words;
   int i = 0;
   double d = 0.0;
@@ -75,10 +79,105 @@ std::vector<Word> DecodedWords(const KCC_ParseNc& p, const std::string& block) {
   real("S", p.GetSCommand(d));
   real("R", p.GetRCommand(d));
   integer("T", p.GetTCommand(i));
-  real("V", p.GetVCommand(d) && HasVWord(block));
+  real("V", p.GetVCommand(d));
   real("X", p.GetXCommand(d));
   real("Y", p.GetYCommand(d));
   return words;
+}
+
+// The words of the block as shown: the getters' answers, V only when the block holds a V word.
+std::vector<Word> DecodedWords(const KCC_ParseNc& p, const std::string& block) {
+  std::vector<Word> words = GetterWords(p);
+  if (!HasVWord(block)) {
+    words.erase(std::remove_if(words.begin(), words.end(), [](const Word& w) { return w.address == "V"; }),
+                words.end());
+  }
+  return words;
+}
+
+bool operator==(const Word& a, const Word& b) {
+  return a.address == b.address && a.value == b.value;
+}
+
+// True when the decoder reads `letter` as an address: the getters answer differently for "<letter>1 X0"
+// than for "X0". The X word is there because GetVCommand answers only for a block with X.
+bool DecoderReadsLetter(char letter) {
+  KCC_ParseNc with;
+  KCC_ParseNc without;
+  with.DecodeISOLine(std::string(1, letter) + "1 X0");
+  without.DecodeISOLine("X0");
+  return GetterWords(with) != GetterWords(without);
+}
+
+bool IsLetter(char c) {
+  return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+}
+
+bool IsLowerCase(char c) {
+  return c >= 'a' && c <= 'z';
+}
+
+// The letters A to Z and a to z that the decoder reads as addresses, asked of the decoder once.
+const std::string& AddressLetters() {
+  static const std::string letters = [] {
+    std::string read;
+    for (const char* range : {"AZ", "az"}) {
+      for (char c = range[0]; c <= range[1]; ++c) {
+        if (DecoderReadsLetter(c))
+          read += c;
+      }
+    }
+    return read;
+  }();
+  return letters;
+}
+
+bool IsAddressLetter(char c) {
+  return AddressLetters().find(c) != std::string::npos;
+}
+
+// "Z, H".
+std::string ListLetters(const std::string& letters) {
+  std::string text;
+  for (char c : letters)
+    text += (text.empty() ? "" : ", ") + std::string(1, c);
+  return text;
+}
+
+// One warning per kind of text that changes how the decoder reads the words of `block`: a ';' (no comment
+// for the decoder), lower-case letters and upper-case letters it does not read. Text in round brackets is
+// skipped, as the decoder skips it.
+void WarnAboutMisreadText(const std::string& block, std::ostream& err) {
+  bool semicolon = false;
+  std::string lowerCase;
+  std::string unread;
+  for (std::size_t i = 0; i < block.size(); ++i) {
+    const char c = block[i];
+    if (c == '(') {
+      i = block.find(')', i + 1);
+      if (i == std::string::npos)
+        break;
+      continue;
+    }
+    semicolon = semicolon || c == ';';
+    if (!IsLetter(c) || IsAddressLetter(c))
+      continue;
+    std::string& into = IsLowerCase(c) ? lowerCase : unread;
+    if (into.find(c) == std::string::npos)
+      into += c;
+  }
+  if (semicolon) {
+    err << "nckit block: warning: ';' does not end the block: the decoder reads on past it, and a letter "
+           "repeated after it continues its word (X5 ; X99 reads as X 599); put comments in round brackets\n";
+  }
+  if (!lowerCase.empty()) {
+    err << "nckit block: warning: lower-case letters are not decoded: " << ListLetters(lowerCase)
+        << " (each ends the word before it, and its number is skipped)\n";
+  }
+  if (!unread.empty()) {
+    err << "nckit block: warning: letters the decoder does not read: " << ListLetters(unread)
+        << " (each ends the word before it, and its number is skipped)\n";
+  }
 }
 
 // A decoded value as a JSON number; a value that overflowed to infinity (or NaN) has no JSON form.
@@ -97,8 +196,10 @@ int RunBlock(const NckitArgs& args, std::ostream& out, std::ostream& err) {
       "as does a\nrepeated letter (X10 X20: 1020). Letters with a real value show it with its "
       "fraction; the others\nshow the integer. V is shown only when the block holds both X and V "
       "(the parser pairs them).\nSeveral arguments are joined with blanks into one block.\n"
-      "Exit code 1 when the block is malformed (a second '-' or '.' in a word, or under 2 "
-      "characters).\n");
+      "A warning on stderr names text that changes how the words are read: a ';' (no comment "
+      "here:\nX5 ; X99 reads as X 599), lower-case letters and letters the decoder does not read "
+      "(comments in\nround brackets are skipped).\nExit code 1 when the block is malformed (a "
+      "second '-' or '.' in a word, or under 2 characters)\nor holds no address word.\n");
   cl.Operands("BLOCK", parts);
   cl.Flag("--json", json, "write {\"complete\": bool, \"words\": [{\"address\": ..., \"value\": ...}]}");
   if (const auto stop = cl.Parse(args, out, err))
@@ -124,12 +225,17 @@ int RunBlock(const NckitArgs& args, std::ostream& out, std::ostream& err) {
     for (const Word& w : words)
       out << w.address << ' ' << w.value << '\n';
   }
-  if (complete && words.empty()) {
-    err << "nckit block: no address words found (addresses are the upper-case letters A to Y except H, O, Q, "
-           "U and W, each followed directly by its number)\n";
-  }
+  WarnAboutMisreadText(block, err);
   if (!complete) {
     err << "nckit block: malformed block (a word with a second '-' or '.', or fewer than 2 characters)\n";
+    return kNckitProblem;
+  }
+  if (words.empty()) {
+    std::string upperCase;
+    for (char c : AddressLetters())
+      upperCase += IsLowerCase(c) ? "" : " " + std::string(1, c);
+    err << "nckit block: no address words found (addresses are the letters" << upperCase
+        << ", each followed directly by its number)\n";
     return kNckitProblem;
   }
   return kNckitOk;

@@ -3,6 +3,7 @@
 //
 //   nckit extract samples/fanuc_programs.nc 1000 8010
 //   nckit extract samples/fanuc_programs.nc O8010 -o sub.nc
+//   nckit extract long.nc 1 --no-line-limit -o long1.nc   # warns: lines over the reader's limit
 #include <ostream>
 #include <set>
 #include <string>
@@ -24,7 +25,10 @@ int RunExtract(const NckitArgs& args, std::ostream& out, std::ostream& err) {
       "Writes the programs with the given numbers (1000, O1000 or :1000), every one that has "
       "such a number,\nin file order with main programs first, framed by '%' lines, to "
       "standard output or to OUT.\nA number that matches no program is an error and nothing is "
-      "written.\n");
+      "written. As info, check and split do, extract\nlooks for the first block by default: "
+      "its program is a main program and comes first\n(--no-first-block turns that off). A written "
+      "line longer than the file reader takes gets a\nwarning: such a file reads back only with "
+      "--no-line-limit.\n");
   cl.Operands("FILE NUMBER", operands);
   cl.Option("-o,--output", target, "OUT", "write to OUT instead of standard output (OUT is replaced)");
   cl.LoadOptions(load);
@@ -64,15 +68,20 @@ int RunExtract(const NckitArgs& args, std::ostream& out, std::ostream& err) {
   if (missing)
     return kNckitProblem;
 
+  // The text as "\n"-ended lines: what goes to the standard output, and the lines SaveProgramsToFile
+  // writes, whose length decides whether the loader can read them back.
+  const std::string text = KCC_NcFile::GetProgramsText(programs, KCString("\n"));
   if (!toFile) {
     // The standard output is a text stream: on Windows it turns each "\n" into the platform's line end.
-    out << KCC_NcFile::GetProgramsText(programs, KCString("\n"));
+    out << text;
+    WarnLinesTooLongToReadBack(cl, "standard output", text, err);
     return kNckitOk;
   }
   if (!KCC_NcFile::SaveProgramsToFile(target, programs)) {
     err << cl.Program() << ": cannot write " << target << '\n';
     return kNckitProblem;
   }
+  WarnLinesTooLongToReadBack(cl, target, text, err);
   return kNckitOk;
 }
 

@@ -22,7 +22,11 @@ int RunRemove(const NckitArgs& args, std::ostream& out, std::ostream& err) {
       "remove", "nckit remove FILE NUMBER... -o OUT [options]",
       "Writes all programs of FILE except those with the given numbers (1000, O1000 or :1000) "
       "to OUT,\nmain programs first, framed by '%' lines. OUT may be FILE itself only when named "
-      "so explicitly.\nA number that matches no program is an error and nothing is written.\n");
+      "so explicitly.\nA number that matches no program is an error and nothing is written. As "
+      "info, check and split do,\nremove looks for the first block by default: its program is a "
+      "main program and is written among\nthem (--no-first-block turns that off). A written line "
+      "longer than the file reader takes gets a\nwarning: such a file reads back only with "
+      "--no-line-limit.\n");
   cl.Operands("FILE NUMBER", operands);
   cl.Option("-o,--output", target, "OUT", "the file to write (required; replaced when it exists)");
   cl.LoadOptions(load);
@@ -64,6 +68,10 @@ int RunRemove(const NckitArgs& args, std::ostream& out, std::ostream& err) {
     err << cl.Program() << ": cannot write " << target << '\n';
     return kNckitProblem;
   }
+  std::vector<const KCC_NcFileProgram*> written;
+  for (KCC_NcFileProgram* p : AllPrograms(file))
+    written.push_back(p);
+  WarnLinesTooLongToReadBack(cl, target, KCC_NcFile::GetProgramsText(written, KCString("\n")), err);
   out << "removed " << removed << " program" << (removed == 1 ? "" : "s") << ", wrote " << target << '\n';
   return kNckitOk;
 }

@@ -31,7 +31,11 @@ int RunSplit(const NckitArgs& args, std::ostream& out, std::ostream& err) {
       "DIR,\nframed by '%' lines. A program numbered 12 goes to O0012.nc; a second program with "
       "the same number\nto O0012_2.nc; a program without a number to unnumbered_1.nc, "
       "unnumbered_2.nc, ... DIR is created\nwhen missing. Existing files are not replaced unless "
-      "--force is given; FILE itself never is.\n");
+      "--force is given; FILE itself never is.\nA program without lines (such as the empty "
+      "program --keep-unfinished may keep after the last\nprogram end) gets no file, and a "
+      "warning says so; so does a written line longer than the file\nreader takes, since such a "
+      "file reads back only with --no-line-limit. The first block is looked\nfor unless "
+      "--no-first-block is given.\n");
   cl.Operands("FILE", files);
   cl.Option("-o,--output", directory, "DIR", "the directory to write into (required)");
   cl.Flag("--force", force, "replace existing files");
@@ -60,6 +64,13 @@ int RunSplit(const NckitArgs& args, std::ostream& out, std::ostream& err) {
   int unnumbered = 0;
   for (KCC_NcFileProgram* p : AllPrograms(*loaded.file)) {
     const int number = p->GetProgramNumber();
+    if (p->GetStringList().size() == 0) {
+      // Its file would hold the two '%' lines alone, which load as no program at all.
+      err << cl.Program() << ": " << path << ": warning: "
+          << (number < 0 ? std::string("a program without number") : "program " + ProgramNumberText(number))
+          << " has no lines; no file written for it\n";
+      continue;
+    }
     std::string name;
     if (number < 0) {
       name = "unnumbered_" + std::to_string(++unnumbered) + ".nc";
@@ -95,6 +106,8 @@ int RunSplit(const NckitArgs& args, std::ostream& out, std::ostream& err) {
       return kNckitProblem;
     }
     out << target.string() << '\n';
+    WarnLinesTooLongToReadBack(cl, target.string(), KCC_NcFile::GetProgramsText({program}, KCString("\n")),
+                               err);
   }
   return kNckitOk;
 }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // nckit info: what an NC file holds: its structure, how the load went and a table of its programs.
 //
-//   nckit info samples/fanuc_programs.nc                 # the JOB program that calls M98 P8010 is a main program
-//   nckit info samples/fanuc_programs.nc --no-first-block   # ... or a sub-program, as its M99 says
+//   nckit info samples/fanuc_programs.nc                    # JOB calls M98 P8010: a main program
+//   nckit info samples/fanuc_programs.nc --no-first-block   # JOB ends with M99: a sub-program
 //   nckit info part.mpf --json
 #include <algorithm>
 #include <map>

@@ -377,6 +377,48 @@ class KCC_NcFile::Loader {
 KCC_NcFile::KCC_NcFile() = default;
 KCC_NcFile::KCC_NcFile(const KCC_NcFile& other) = default;
 KCC_NcFile& KCC_NcFile::operator=(const KCC_NcFile& other) = default;
+
+KCC_NcFile::KCC_NcFile(KCC_NcFile&& other) noexcept
+    : m_mainPrograms(std::move(other.m_mainPrograms)),
+      m_subPrograms(std::move(other.m_subPrograms)),
+      m_loadedFromFileId(std::move(other.m_loadedFromFileId)),
+      m_errorCode(other.m_errorCode),
+      m_structure(other.m_structure),
+      m_tooLongLine(other.m_tooLongLine) {
+  other.ResetToNew();
+}
+
+KCC_NcFile& KCC_NcFile::operator=(KCC_NcFile&& other) noexcept {
+  if (this == &other)
+    return *this;
+  m_mainPrograms = std::move(other.m_mainPrograms);
+  m_subPrograms = std::move(other.m_subPrograms);
+  m_loadedFromFileId = std::move(other.m_loadedFromFileId);
+  m_errorCode = other.m_errorCode;
+  m_structure = other.m_structure;
+  m_tooLongLine = other.m_tooLongLine;
+  other.ResetToNew();
+  return *this;
+}
+
+// The state of a new file, for a moved-from one (its lists are already empty).
+void KCC_NcFile::ResetToNew() noexcept {
+  m_loadedFromFileId = KCString();
+  m_errorCode = kNoError;
+  m_structure = kFanucStructure;
+  m_tooLongLine = 0;
+}
+
+KCC_NcFile KCC_NcFile::Clone() const {
+  KCC_NcFile copy;
+  copy.m_mainPrograms = m_mainPrograms.Clone();
+  copy.m_subPrograms = m_subPrograms.Clone();
+  copy.m_loadedFromFileId = m_loadedFromFileId;
+  copy.m_errorCode = m_errorCode;
+  copy.m_structure = m_structure;
+  copy.m_tooLongLine = m_tooLongLine;
+  return copy;
+}
 KCC_NcFile::~KCC_NcFile() = default;
 
 KCC_NcFileProgram* KCC_NcFile::LoadFromStringList(const KCStringList& text, bool checkFirstBlock,
@@ -426,7 +468,9 @@ KCC_NcFileProgram* KCC_NcFile::LoadFile(const KCString& fileName, bool checkFirs
   }
   file.reset();
   KCC_NcFileProgram* result = loader.Finish();
-  m_tooLongLine = reader.FailedLine();
+  // A too-long line that comes after the line budget ran out is not what ended the load.
+  const int failedLine = reader.FailedLine();
+  m_tooLongLine = failedLine <= kMaxLines ? failedLine : 0;
   if (!loader.BudgetRanOut())
     m_loadedFromFileId = fileName;
   return result;

@@ -2,6 +2,8 @@
 // KCC_NcFileProgram: number, reference text, lines, size and download action of one NC program.
 #include "ncappkit/nc/KCC_NcFileProgram.h"
 
+#include "ncappkit/nc/KCC_NcFile.h"
+
 #include <limits>
 
 #include "ncappkit/nc/KCC_NcFileProgramVisitor.h"
@@ -96,4 +98,8 @@ bool KCC_NcFileProgram::IsSelectedForDownLoading() const {
 
 bool KCC_NcFileProgram::Accept(KCC_NcFileProgramVisitor& visitor) {
   return visitor.Visit(*this);
+}
+
+bool KCC_NcFileProgram::SaveToFile(const KCString& fileName) const {
+  return KCC_NcFile::SaveProgramsToFile(fileName, {this});
 }

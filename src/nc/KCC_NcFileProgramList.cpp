@@ -2,6 +2,8 @@
 // KCC_NcFileProgramList: owning list of NC programs with a cursor.
 #include "ncappkit/nc/KCC_NcFileProgramList.h"
 
+#include <utility>
+
 #include <limits>
 
 #include "ncappkit/nc/KCC_NcFileProgram.h"
@@ -14,6 +16,33 @@ constexpr std::ptrdiff_t kCursorAtEnd = std::numeric_limits<std::ptrdiff_t>::max
 KCC_NcFileProgramList::KCC_NcFileProgramList() : m_cursor(kCursorAtEnd) {}
 KCC_NcFileProgramList::KCC_NcFileProgramList(const KCC_NcFileProgramList& other) = default;
 KCC_NcFileProgramList& KCC_NcFileProgramList::operator=(const KCC_NcFileProgramList& other) = default;
+
+KCC_NcFileProgramList::KCC_NcFileProgramList(KCC_NcFileProgramList&& other) noexcept
+    : m_programs(std::move(other.m_programs)), m_cursor(other.m_cursor) {
+  other.m_programs.clear();
+  other.m_cursor = kCursorAtEnd;
+}
+
+KCC_NcFileProgramList& KCC_NcFileProgramList::operator=(KCC_NcFileProgramList&& other) noexcept {
+  if (this == &other)
+    return *this;
+  for (KCC_NcFileProgram* program : m_programs)
+    delete program;
+  m_programs = std::move(other.m_programs);
+  m_cursor = other.m_cursor;
+  other.m_programs.clear();
+  other.m_cursor = kCursorAtEnd;
+  return *this;
+}
+
+KCC_NcFileProgramList KCC_NcFileProgramList::Clone() const {
+  KCC_NcFileProgramList copy;
+  copy.m_programs.reserve(m_programs.size());
+  for (const KCC_NcFileProgram* program : m_programs)
+    copy.m_programs.push_back(program == nullptr ? nullptr : new KCC_NcFileProgram(*program));
+  copy.m_cursor = m_cursor;
+  return copy;
+}
 KCC_NcFileProgramList::~KCC_NcFileProgramList() {
   for (KCC_NcFileProgram* program : m_programs)
     delete program;

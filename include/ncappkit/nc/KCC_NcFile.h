@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // KCC_NcFile: loads an NC file (or the same text held as a KCStringList), splits it into programs, files
 // them as main programs or sub-programs, recognises the controller structure and saves the programs again.
+// Copies share their programs, moves transfer them, Clone duplicates them (see "Ownership" below).
 //
 //   KCC_NcFile file;
 //   if (file.LoadFromFile("part.nc", /*checkFirstBlock=*/true, /*keepUnfinished=*/false) == nullptr) {
@@ -36,8 +37,13 @@
 // - An empty read at the very end of the file (after the last line end) is not a line.
 // - SaveToFile writes text lines with the platform's line end (KCC_GetTextLineEnd: LF, CR LF on Windows).
 //
-// Copying a KCC_NcFile copies the two lists memberwise: the copies share their programs (see
-// KCC_NcFileProgramList).
+// Ownership, in three rules (as for KCC_NcFileProgramList):
+// - Copies share. Copying a KCC_NcFile copies the two lists memberwise: the copies refer to the same
+//   programs, and both would delete them.
+// - Moves transfer. A moved-to file takes the programs, the file id and the error state over; the moved-from
+//   file is left as a new one. So a file can be returned from a function on any path, and kept in a
+//   std::vector grown with emplace_back or push_back(std::move(file)).
+// - Clone duplicates: an independent file with copies of all programs.
 // See docs/behaviours.md#nc-files.
 #pragma once
 
@@ -73,6 +79,12 @@ class NCAPPKIT_EXPORT KCC_NcFile {
   KCC_NcFile(const KCC_NcFile& other);
   /// Memberwise copy: the lists' pointers are copied, not the programs.
   KCC_NcFile& operator=(const KCC_NcFile& other);
+  /// Takes over the programs, file id, error code, structure and too-long line of `other`, which is left as
+  /// a new file (no programs, no file id, no error, Fanuc structure).
+  KCC_NcFile(KCC_NcFile&& other) noexcept;
+  /// Deletes the programs held before, then takes over everything of `other`, which is left as a new file.
+  /// Moving a file onto itself changes nothing.
+  KCC_NcFile& operator=(KCC_NcFile&& other) noexcept;
   virtual ~KCC_NcFile();
 
   /// Load the file `fileName`. Returns the last program stored in a list, or null with the error code set.
@@ -109,6 +121,9 @@ class NCAPPKIT_EXPORT KCC_NcFile {
                                      const KCString& lineEnd);
   /// A short English name of a load error code ("file not found"); "unknown error N" for other codes.
   static KCString GetErrorName(int errorCode);
+
+  /// An independent file: the same file id, error code and structure, with copies of all programs.
+  KCC_NcFile Clone() const;
 
   /// The main programs (ended by M30, or holding the first block).
   KCC_NcFileProgramList& GetMainProgList();
@@ -177,6 +192,7 @@ class NCAPPKIT_EXPORT KCC_NcFile {
   friend class Loader;
   KCC_NcFileProgram* LoadFile(const KCString& fileName, bool checkFirstBlock, bool keepUnfinished,
                               bool lineLimit);
+  void ResetToNew() noexcept;
 
   KCC_NcFileProgramList m_mainPrograms;
   KCC_NcFileProgramList m_subPrograms;

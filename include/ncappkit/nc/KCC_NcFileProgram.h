@@ -43,6 +43,10 @@ class NCAPPKIT_EXPORT KCC_NcFileProgram {
   KCStringList& GetStringList();
   /// The program's lines, in file order.
   const KCStringList& GetStringList() const;
+  /// Write this program alone to `fileName` as KCC_NcFile::SaveToFile writes a file: framed by '%' lines,
+  /// with the platform's line end, through a temporary file that replaces the target once complete. False
+  /// for an empty name or a target that cannot be written (the old file then stays as it was).
+  bool SaveToFile(const KCString& fileName) const;
   /// The result of the last CalculateProgramSize (0 before the first call).
   int GetProgramSize() const;
 

@@ -5,12 +5,17 @@
 //   KCC_NcFileProgramList list;
 //   KCC_NcFileProgramCreator creator(list);
 //   creator.Create()->SetProgramNumber(10);
-//   for (KCC_NcFileProgram* p = list.GetFirstProg(); p != nullptr; p = list.GetNextProg()) { ... }
+//   for (KCC_NcFileProgram* p : list) { ... }     // or GetFirstProg / GetNextProg with the cursor
 //   list.RemoveProgramFromList(10);               // deletes the program
 //
-// Ownership: the list deletes its programs in ClearWithContents, RemoveProgramFromList and its destructor.
-// Copying a list copies only the pointers (and the cursor): both lists then refer to the same programs and
-// both would delete them. Keep one copy alive only, or call Detach on all copies but one before they go.
+// Ownership, in three rules:
+// - Copies share. Copying a list copies only the pointers (and the cursor): both lists then refer to the same
+//   programs and both would delete them. Keep one copy alive only, or call Detach on all copies but one.
+// - Moves transfer. A moved-to list takes the programs over; the moved-from list is empty and usable. So a
+//   list can be returned from a function or kept in a std::vector safely.
+// - Clone duplicates. Clone gives an independent list with copies of the programs.
+// The list deletes its programs in ClearWithContents, RemoveProgramFromList, a move assignment onto it and its
+// destructor. Range-for (begin/end) walks the entries without touching the cursor, so loops can nest.
 // See docs/behaviours.md#nc-programs-and-program-lists.
 #pragma once
 
@@ -31,6 +36,11 @@ class NCAPPKIT_EXPORT KCC_NcFileProgramList {
   KCC_NcFileProgramList(const KCC_NcFileProgramList& other);
   /// Copies the pointers and the cursor; the programs held before are not deleted.
   KCC_NcFileProgramList& operator=(const KCC_NcFileProgramList& other);
+  /// Takes over the programs and the cursor of `other`, which is left empty with its cursor at the end.
+  KCC_NcFileProgramList(KCC_NcFileProgramList&& other) noexcept;
+  /// Deletes the programs held before, then takes over those and the cursor of `other`, which is left empty
+  /// with its cursor at the end. Moving a list onto itself changes nothing.
+  KCC_NcFileProgramList& operator=(KCC_NcFileProgramList&& other) noexcept;
   /// Deletes every program of the list.
   virtual ~KCC_NcFileProgramList();
 
@@ -57,6 +67,15 @@ class NCAPPKIT_EXPORT KCC_NcFileProgramList {
   void ClearWithContents();
   /// Empty the list without deleting the programs (for a list that shares them with a copy).
   void Detach();
+  /// An independent list: a copy of every program (null entries stay null) and the same cursor position.
+  KCC_NcFileProgramList Clone() const;
+
+  /// Iterator over the entries: each is a program pointer, null for an entry added as null.
+  using const_iterator = std::vector<KCC_NcFileProgram*>::const_iterator;
+  /// First entry, for range-for; the cursor is not touched.
+  const_iterator begin() const noexcept { return m_programs.begin(); }
+  /// Past the last entry.
+  const_iterator end() const noexcept { return m_programs.end(); }
 
   /// SetSelectedForDownLoading(selected) on every program.
   void SelectDownLoadAllPrograms(bool selected);

@@ -9,6 +9,7 @@
 #include "ncappkit/config/KCC_CfgObject.h"
 #include "ncappkit/foundation/KCIniFile.h"
 #include "support/TempDir.h"
+#include "support/TestData.h"
 
 namespace {
 
@@ -158,25 +159,36 @@ TEST(KccCfgApplication, LoadReadsEverySetting) {
   EXPECT_EQ(app.GetSystemTextEditor(), "vi -n");
 }
 
-TEST(KccCfgApplication, LanguagesMapToTheirNumbers) {
-  const struct {
-    const char* text;
-    bool (KCC_CfgApplication::*is)() const;
-  } cases[] = {{"Ned", &KCC_CfgApplication::IsNed},
-               {"Fra", &KCC_CfgApplication::IsFra},
-               {"Eng", &KCC_CfgApplication::IsEng},
-               {"Dts", &KCC_CfgApplication::IsDts},
-               {"Ita", &KCC_CfgApplication::IsIta}};
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.text);
-    TempDir dir;
-    const std::string ini = dir.WriteFile("app.ini", std::string("[MillCam]\nLang=") + c.text + "\n");
-    KCC_CfgObjectIniFile cfg(ini, kSection);
-    KCC_CfgApplication app;
-    app.LoadLanguage(cfg);
-    EXPECT_TRUE((app.*c.is)());
-  }
+namespace {
+
+// A language code of the INI file and the predicate that is true for it.
+struct LanguageRow {
+  const char* name;
+  const char* text;
+  bool (KCC_CfgApplication::*is)() const;
+};
+
+const LanguageRow kLanguages[] = {
+    {"dutch", "Ned", &KCC_CfgApplication::IsNed},   {"french", "Fra", &KCC_CfgApplication::IsFra},
+    {"english", "Eng", &KCC_CfgApplication::IsEng}, {"german", "Dts", &KCC_CfgApplication::IsDts},
+    {"italian", "Ita", &KCC_CfgApplication::IsIta},
+};
+
+class KccCfgApplicationLanguages : public ::testing::TestWithParam<LanguageRow> {};
+
+}  // namespace
+
+TEST_P(KccCfgApplicationLanguages, LanguageMapsToItsNumber) {
+  const LanguageRow& c = GetParam();
+  TempDir dir;
+  const std::string ini = dir.WriteFile("app.ini", std::string("[MillCam]\nLang=") + c.text + "\n");
+  KCC_CfgObjectIniFile cfg(ini, kSection);
+  KCC_CfgApplication app;
+  app.LoadLanguage(cfg);
+  EXPECT_TRUE((app.*c.is)());
 }
+
+INSTANTIATE_TEST_SUITE_P(Languages, KccCfgApplicationLanguages, ::testing::ValuesIn(kLanguages), RowName());
 
 TEST(KccCfgApplication, UnknownLanguageKeepsTheCurrentOne) {
   TempDir dir;
@@ -456,20 +468,39 @@ TEST(KccCfgApplication, WritesKeepOtherSectionsKeysAndComments) {
   EXPECT_TRUE(app.IsNed());
 }
 
-TEST(KccCfgApplication, CopyKeepsEverySetting) {
+namespace {
+
+// A way to copy the settings.
+struct CopyRow {
+  const char* name;
+  KCC_CfgApplication (*copy)(const KCC_CfgApplication&);
+};
+
+const CopyRow kCopies[] = {
+    {"copy_constructor", [](const KCC_CfgApplication& app) { return KCC_CfgApplication(app); }},
+    {"copy_assignment",
+     [](const KCC_CfgApplication& app) {
+       KCC_CfgApplication assigned;
+       assigned = app;
+       return assigned;
+     }},
+};
+
+class KccCfgApplicationCopies : public ::testing::TestWithParam<CopyRow> {};
+
+}  // namespace
+
+TEST_P(KccCfgApplicationCopies, CopyKeepsEverySetting) {
   TempDir dir;
   const std::string ini = dir.WriteFile("app.ini", "[MillCam]\nLang=Ita\nUnits=Inch\nTmpDir=/t\n");
   KCC_CfgObjectIniFile cfg(ini, kSection);
   KCC_CfgApplication app;
   app.Load(cfg, false, false, true, false);
-  const KCC_CfgApplication copy(app);
-  KCC_CfgApplication assigned;
-  assigned = app;
-  const KCC_CfgApplication* both[] = {&copy, &assigned};
-  for (const KCC_CfgApplication* a : both) {
-    EXPECT_TRUE(a->IsIta());
-    EXPECT_TRUE(a->IsInchMode());
-    EXPECT_EQ(a->GetApplicTmpDir(), "/t");
-    EXPECT_TRUE(a->IsConfigurationWriteEnable());
-  }
+  const KCC_CfgApplication a = GetParam().copy(app);
+  EXPECT_TRUE(a.IsIta());
+  EXPECT_TRUE(a.IsInchMode());
+  EXPECT_EQ(a.GetApplicTmpDir(), "/t");
+  EXPECT_TRUE(a.IsConfigurationWriteEnable());
 }
+
+INSTANTIATE_TEST_SUITE_P(Copies, KccCfgApplicationCopies, ::testing::ValuesIn(kCopies), RowName());

@@ -6,6 +6,7 @@
 
 #include "ncappkit/foundation/KC2DElement.h"
 #include "ncappkit/foundation/KCParagraph.h"
+#include "support/TestData.h"
 
 namespace {
 
@@ -390,19 +391,29 @@ TEST(Kc2DElement, CloneMakesAnEqualIndependentCopy) {
   EXPECT_FALSE(copy->IsAlmostEq(arc, 0.5));
 }
 
-TEST(Kc2DElement, AcceptCallsTheVisitOfTheKind) {
-  KC2DPoint p;
-  KC2DLine l;
-  KC2DArc a;
-  KC2DRectangle r;
+// One kind of element: its visitor name and how to make one.
+struct KindRow {
+  const char* name;
+  std::unique_ptr<KC2DElement> (*make)();
+};
+
+const KindRow kKinds[] = {
+    {"point", [] { return std::unique_ptr<KC2DElement>(new KC2DPoint()); }},
+    {"line", [] { return std::unique_ptr<KC2DElement>(new KC2DLine()); }},
+    {"arc", [] { return std::unique_ptr<KC2DElement>(new KC2DArc()); }},
+    {"rectangle", [] { return std::unique_ptr<KC2DElement>(new KC2DRectangle()); }},
+};
+
+class Kc2DElementKinds : public ::testing::TestWithParam<KindRow> {};
+
+TEST_P(Kc2DElementKinds, AcceptCallsTheVisitOfTheKind) {
+  const std::unique_ptr<KC2DElement> element = GetParam().make();
   KindName v;
-  KC2DElement* elements[] = {&p, &l, &a, &r};
-  const char* names[] = {"point", "line", "arc", "rectangle"};
-  for (int i = 0; i < 4; ++i) {
-    EXPECT_TRUE(elements[i]->Accept(v));
-    EXPECT_EQ(v.name, names[i]);
-  }
+  EXPECT_TRUE(element->Accept(v));
+  EXPECT_EQ(v.name, GetParam().name);
 }
+
+INSTANTIATE_TEST_SUITE_P(Kinds, Kc2DElementKinds, ::testing::ValuesIn(kKinds), RowName());
 
 TEST(Kc2DElement, WriteThenReadGivesTheSameElement) {
   KCParagraph root("Root");

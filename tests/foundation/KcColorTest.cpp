@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "ncappkit/foundation/KCColor.h"
+#include "support/TestData.h"
 
 namespace {
 
@@ -82,14 +83,33 @@ TEST(KcColor, FromStringWithThreeChannelsGivesOpaqueColor) {
   EXPECT_EQ(read, KCColor(10, 20, 30, 255));
 }
 
-TEST(KcColor, FromStringRejectsBadTextAndLeavesColorUnchanged) {
-  for (const char* text :
-       {"", "1,2", "1,2,3,4,5", "1,2,x", "1,2,256", "-1,2,3", "1,,3", "1.5,2,3", "1,2,3,"}) {
-    KCColor color(9, 8, 7, 6);
+struct BadColorText {
+  const char* name;
+  const char* text;
+};
 
-    EXPECT_FALSE(KCColor::FromString(text, color)) << text;
-    EXPECT_EQ(color, KCColor(9, 8, 7, 6)) << text;
-  }
+const BadColorText kBadColorTexts[] = {
+    {"empty", ""},
+    {"two_channels", "1,2"},
+    {"five_channels", "1,2,3,4,5"},
+    {"letter", "1,2,x"},
+    {"channel_above_255", "1,2,256"},
+    {"negative_channel", "-1,2,3"},
+    {"empty_channel", "1,,3"},
+    {"fraction", "1.5,2,3"},
+    {"trailing_comma", "1,2,3,"},
+};
+
+class KcColorBadText : public ::testing::TestWithParam<BadColorText> {};
+
+TEST_P(KcColorBadText, FromStringRejectsItAndLeavesColorUnchanged) {
+  const char* text = GetParam().text;
+  KCColor color(9, 8, 7, 6);
+
+  EXPECT_FALSE(KCColor::FromString(text, color)) << text;
+  EXPECT_EQ(color, KCColor(9, 8, 7, 6)) << text;
 }
+
+INSTANTIATE_TEST_SUITE_P(Texts, KcColorBadText, ::testing::ValuesIn(kBadColorTexts), RowName());
 
 }  // namespace

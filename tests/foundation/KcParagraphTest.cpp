@@ -10,6 +10,7 @@
 
 #include "ncappkit/foundation/KCParagraph.h"
 #include "support/TempDir.h"
+#include "support/TestData.h"
 
 #if !defined(_WIN32)
 #include <sys/stat.h>
@@ -344,18 +345,37 @@ TEST(KcParagraph, WriteDoubleWithNegativeDigitsWritesShortestText) {
   EXPECT_DOUBLE_EQ(section.ReadDouble("Step", 0.0), 0.1);
 }
 
-TEST(KcParagraph, ReadBoolKnowsTheUsualWordsInAnyCase) {
+// A word ReadBool knows and the value it stands for.
+struct BoolWord {
+  const char* name;
+  const char* word;
+  bool value;
+};
+
+const BoolWord kBoolWords[] = {
+    {"one", "1", true},
+    {"true_lower_case", "true", true},
+    {"yes_upper_case", "YES", true},
+    {"on_with_blanks", " On ", true},
+    {"zero", "0", false},
+    {"false_capitalised", "False", false},
+    {"no_lower_case", "no", false},
+    {"off_upper_case", "OFF", false},
+};
+
+class KcParagraphBoolWords : public ::testing::TestWithParam<BoolWord> {};
+
+TEST_P(KcParagraphBoolWords, ReadBoolKnowsTheWordInAnyCase) {
   KCParagraph section;
-  const char* truths[] = {"1", "true", "YES", " On "};
-  const char* lies[] = {"0", "False", "no", "OFF"};
-  for (const char* word : truths) {
-    section.WriteString("b", word);
-    EXPECT_TRUE(section.ReadBool("b", false)) << word;
-  }
-  for (const char* word : lies) {
-    section.WriteString("b", word);
-    EXPECT_FALSE(section.ReadBool("b", true)) << word;
-  }
+  section.WriteString("b", GetParam().word);
+  // The default is the other value, so only the word can give the expected one.
+  EXPECT_EQ(section.ReadBool("b", !GetParam().value), GetParam().value) << GetParam().word;
+}
+
+INSTANTIATE_TEST_SUITE_P(Words, KcParagraphBoolWords, ::testing::ValuesIn(kBoolWords), RowName());
+
+TEST(KcParagraph, ReadBoolGivesTheDefaultForAnyOtherWord) {
+  KCParagraph section;
   section.WriteString("b", "maybe");
   EXPECT_TRUE(section.ReadBool("b", true));
   EXPECT_FALSE(section.ReadBool("b", false));

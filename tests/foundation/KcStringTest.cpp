@@ -10,6 +10,7 @@
 #include <string>
 
 #include "ncappkit/foundation/KCString.h"
+#include "support/TestData.h"
 
 TEST(KcString, TrimLeftOfCharRemovesEveryLeadingOccurrence) {
   KCString s("==5");
@@ -168,12 +169,27 @@ TEST(KcString, DoubleWithMinusOneDigitsNeverUsesExponent) {
   EXPECT_EQ(KCString(1e6, -1, false), "1000000");
 }
 
-TEST(KcString, DoubleShortestTextReadsBackToSameValue) {
-  const double values[] = {1.0 / 3.0, 25.4, 0.30000000000000004, 123456.789, -1e-9};
-  for (double v : values) {
-    EXPECT_EQ(KCString(v, -1, false).AsDouble(0.0), v) << KCString(v, -1, false).str();
-  }
+struct ShortestTextValue {
+  const char* name;
+  double value;
+};
+
+const ShortestTextValue kShortestTextValues[] = {
+    {"one_third", 1.0 / 3.0},
+    {"millimetres_per_inch", 25.4},
+    {"sum_of_a_tenth_and_a_fifth", 0.30000000000000004},
+    {"nine_digits", 123456.789},
+    {"small_negative", -1e-9},
+};
+
+class KcStringShortestText : public ::testing::TestWithParam<ShortestTextValue> {};
+
+TEST_P(KcStringShortestText, DoubleShortestTextReadsBackToSameValue) {
+  const double v = GetParam().value;
+  EXPECT_EQ(KCString(v, -1, false).AsDouble(0.0), v) << KCString(v, -1, false).str();
 }
+
+INSTANTIATE_TEST_SUITE_P(Values, KcStringShortestText, ::testing::ValuesIn(kShortestTextValues), RowName());
 
 TEST(KcString, DoubleWithDigitsGivesFixedDecimals) {
   EXPECT_EQ(KCString(2.5, 3, false), "2.500");

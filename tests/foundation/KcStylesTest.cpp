@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
+#include <string>
+
 #include "ncappkit/foundation/KCBrushStyle.h"
 #include "ncappkit/foundation/KCFontStyle.h"
 #include "ncappkit/foundation/KCPenMode.h"
 #include "ncappkit/foundation/KCPenStyle.h"
+#include "support/TestData.h"
 
 namespace {
 
@@ -29,13 +32,27 @@ TEST(KcPenStyle, ToStringNamesEveryKind) {
   EXPECT_EQ(KCPenStyle::ToString(KCPenStyleDashDotDot()), "DashDotDot");
 }
 
-TEST(KcPenStyle, FromStringReadsBackEveryKind) {
-  for (const KCPenStyle& style :
-       {KCPenStyle(KCPenStyleSolid()), KCPenStyle(KCPenStyleDash()), KCPenStyle(KCPenStyleDot()),
-        KCPenStyle(KCPenStyleDashDot()), KCPenStyle(KCPenStyleDashDotDot())}) {
-    EXPECT_EQ(KCPenStyle::FromString(KCPenStyle::ToString(style)), style);
-  }
+struct PenStyleRow {
+  const char* name;
+  KCPenStyle style;
+};
+
+const PenStyleRow kPenStyles[] = {
+    {"solid", KCPenStyleSolid()},
+    {"dash", KCPenStyleDash()},
+    {"dot", KCPenStyleDot()},
+    {"dash_dot", KCPenStyleDashDot()},
+    {"dash_dot_dot", KCPenStyleDashDotDot()},
+};
+
+class KcPenStyleKinds : public ::testing::TestWithParam<PenStyleRow> {};
+
+TEST_P(KcPenStyleKinds, FromStringReadsBackTheKind) {
+  const KCPenStyle& style = GetParam().style;
+  EXPECT_EQ(KCPenStyle::FromString(KCPenStyle::ToString(style)), style);
 }
+
+INSTANTIATE_TEST_SUITE_P(Kinds, KcPenStyleKinds, ::testing::ValuesIn(kPenStyles), RowName());
 
 TEST(KcPenStyle, FromStringIgnoresCaseAndBlanks) {
   EXPECT_EQ(KCPenStyle::FromString("  dashdot "), KCPenStyleDashDot());
@@ -103,19 +120,38 @@ TEST(KcFontStyles, ToStringWritesNamesInFixedOrder) {
   EXPECT_EQ(KCFontStyles::ToString(styles), "Bold,Italic,StrikeOut");
 }
 
-TEST(KcFontStyles, EverySubsetRoundTrips) {
-  const KCFontStyle all[] = {KCFontStyleBold(), KCFontStyleItalic(), KCFontStyleUnderline(),
-                             KCFontStyleStrikeOut()};
-  for (unsigned mask = 0; mask < 16; ++mask) {
-    KCFontStyles styles;
-    for (unsigned bit = 0; bit < 4; ++bit) {
-      if ((mask & (1u << bit)) != 0)
-        styles.Add(all[bit]);
-    }
+// Every subset of the four font styles, one row each: bit k of the row's mask stands for style k.
+const KCFontStyle kFontStyles[] = {KCFontStyleBold(), KCFontStyleItalic(), KCFontStyleUnderline(),
+                                   KCFontStyleStrikeOut()};
+const char* const kFontStyleNames[] = {"bold", "italic", "underline", "strike_out"};
 
-    EXPECT_EQ(KCFontStyles::FromString(KCFontStyles::ToString(styles)), styles) << "mask " << mask;
+KCFontStyles FontStylesOfMask(unsigned mask) {
+  KCFontStyles styles;
+  for (unsigned bit = 0; bit < 4; ++bit) {
+    if ((mask & (1u << bit)) != 0)
+      styles.Add(kFontStyles[bit]);
   }
+  return styles;
 }
+
+std::string FontStylesName(const ::testing::TestParamInfo<unsigned>& info) {
+  std::string name;
+  for (unsigned bit = 0; bit < 4; ++bit) {
+    if ((info.param & (1u << bit)) != 0)
+      name += std::string(name.empty() ? "" : "_") + kFontStyleNames[bit];
+  }
+  return name.empty() ? "none" : name;
+}
+
+class KcFontStylesSubsets : public ::testing::TestWithParam<unsigned> {};
+
+TEST_P(KcFontStylesSubsets, SubsetRoundTrips) {
+  const KCFontStyles styles = FontStylesOfMask(GetParam());
+
+  EXPECT_EQ(KCFontStyles::FromString(KCFontStyles::ToString(styles)), styles) << "mask " << GetParam();
+}
+
+INSTANTIATE_TEST_SUITE_P(EverySubset, KcFontStylesSubsets, ::testing::Range(0u, 16u), FontStylesName);
 
 TEST(KcFontStyles, FromStringIgnoresCaseBlanksAndUnknownNames) {
   const KCFontStyles styles = KCFontStyles::FromString(" underline , BOLD,Shadow,, ");

@@ -7,6 +7,7 @@
 
 #include "ncappkit/foundation/KCC_MessageBox.h"
 #include "ncappkit/foundation/KCPlatform.h"
+#include "support/TestData.h"
 
 namespace {
 
@@ -45,6 +46,10 @@ class KccMessageBoxFixture : public ::testing::Test {
 };
 
 using KccMessageBox = KccMessageBoxFixture;
+
+// The same for a TEST_P table whose rows are `Row`s.
+template <typename Row>
+class KccMessageBoxTable : public KccMessageBoxFixture, public ::testing::WithParamInterface<Row> {};
 
 TEST_F(KccMessageBox, NewBoxHasNoAnswerAndEveryPredicateIsFalse) {
   KCC_MessageBox box;
@@ -212,16 +217,28 @@ TEST_F(KccMessageBox, DefaultButtonTwoAndThreeSelectSecondAndThirdButton) {
   EXPECT_EQ(box.GetDefaultButtonCode(), 0);
 }
 
-TEST_F(KccMessageBox, DefaultButtonOutsideOneToThreeSelectsFirstButton) {
-  for (int button : {0, 7, -1, 4, 256}) {
-    KCC_MessageBox box;
-    box.SetDefaultButton(3);
+struct OtherDefaultButton {
+  const char* name;
+  int button;
+};
 
-    box.SetDefaultButton(button);
+const OtherDefaultButton kOtherDefaultButtons[] = {
+    {"zero", 0}, {"seven", 7}, {"minus_one", -1}, {"four", 4}, {"two_hundred_fifty_six", 256},
+};
 
-    EXPECT_EQ(box.GetDefaultButtonCode(), 0) << "argument " << button;
-  }
+using KccMessageBoxOtherDefaultButton = KccMessageBoxTable<OtherDefaultButton>;
+
+TEST_P(KccMessageBoxOtherDefaultButton, SelectsFirstButton) {
+  KCC_MessageBox box;
+  box.SetDefaultButton(3);
+
+  box.SetDefaultButton(GetParam().button);
+
+  EXPECT_EQ(box.GetDefaultButtonCode(), 0) << "argument " << GetParam().button;
 }
+
+INSTANTIATE_TEST_SUITE_P(OutsideOneToThree, KccMessageBoxOtherDefaultButton,
+                         ::testing::ValuesIn(kOtherDefaultButtons), RowName());
 
 TEST_F(KccMessageBox, DoModalPassesDefaultButtonOrIconOrButtonSetAsStyle) {
   KCC_MessageBox box;
@@ -245,32 +262,36 @@ TEST_F(KccMessageBox, DoModalWithDefaultSettingsPassesInformationIconAndOkButton
   EXPECT_EQ(g_shown.owner, nullptr);
 }
 
-TEST_F(KccMessageBox, DoModalStoresEachAnswerAndOnlyItsPredicateIsTrue) {
-  struct Case {
-    unsigned int answer;
-    bool (KCC_MessageBox::*predicate)() const;
-  };
-  const std::vector<Case> cases = {
-      {1, &KCC_MessageBox::IsOk},    {2, &KCC_MessageBox::IsCancel}, {3, &KCC_MessageBox::IsAbort},
-      {4, &KCC_MessageBox::IsRetry}, {5, &KCC_MessageBox::IsIgnore}, {6, &KCC_MessageBox::IsYes},
-      {7, &KCC_MessageBox::IsNo},
-  };
-  const std::vector<bool (KCC_MessageBox::*)() const> all = {
-      &KCC_MessageBox::IsOk,    &KCC_MessageBox::IsCancel, &KCC_MessageBox::IsAbort,
-      &KCC_MessageBox::IsRetry, &KCC_MessageBox::IsIgnore, &KCC_MessageBox::IsYes,
-      &KCC_MessageBox::IsNo};
-  for (const Case& c : cases) {
-    KCC_MessageBox box;
-    g_answer = c.answer;
+// An answer of the box and the one predicate that is true for it.
+struct Answer {
+  const char* name;
+  unsigned int answer;
+  bool (KCC_MessageBox::*predicate)() const;
+};
 
-    box.DoModal();
+const Answer kAnswers[] = {
+    {"ok", 1, &KCC_MessageBox::IsOk},         {"cancel", 2, &KCC_MessageBox::IsCancel},
+    {"abort", 3, &KCC_MessageBox::IsAbort},   {"retry", 4, &KCC_MessageBox::IsRetry},
+    {"ignore", 5, &KCC_MessageBox::IsIgnore}, {"yes", 6, &KCC_MessageBox::IsYes},
+    {"no", 7, &KCC_MessageBox::IsNo},
+};
 
-    EXPECT_EQ(box.GetReturn(), c.answer);
-    for (auto predicate : all) {
-      EXPECT_EQ((box.*predicate)(), predicate == c.predicate) << "answer " << c.answer;
-    }
+using KccMessageBoxAnswer = KccMessageBoxTable<Answer>;
+
+TEST_P(KccMessageBoxAnswer, DoModalStoresTheAnswerAndOnlyItsPredicateIsTrue) {
+  const Answer& a = GetParam();
+  KCC_MessageBox box;
+  g_answer = a.answer;
+
+  box.DoModal();
+
+  EXPECT_EQ(box.GetReturn(), a.answer);
+  for (const Answer& other : kAnswers) {
+    EXPECT_EQ((box.*other.predicate)(), other.predicate == a.predicate) << "predicate of " << other.name;
   }
 }
+
+INSTANTIATE_TEST_SUITE_P(Answers, KccMessageBoxAnswer, ::testing::ValuesIn(kAnswers), RowName());
 
 TEST_F(KccMessageBox, AnswerOutsideTheKnownCodesMakesEveryPredicateFalse) {
   KCC_MessageBox box;

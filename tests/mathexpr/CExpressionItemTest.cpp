@@ -7,6 +7,7 @@
 #include <string>
 
 #include "ncappkit/mathexpr/CExpressionItem.h"
+#include "support/TestData.h"
 
 namespace {
 
@@ -95,23 +96,31 @@ TEST(CExpressionItem, SetFunctionSetsFunctionAndType) {
   EXPECT_EQ(item.GetFunctionName(), CExpressionItem::eFuncCos);
 }
 
-TEST(CExpressionItem, FunctionNamesAreReadInAnyCase) {
-  const struct {
-    const char* name;
-    CExpressionItem::eFunctionName function;
-  } cases[] = {{"SQRT", CExpressionItem::eFuncSqrt},
-               {"sqrt", CExpressionItem::eFuncSqrt},
-               {"Sin", CExpressionItem::eFuncSin},
-               {"cOs", CExpressionItem::eFuncCos},
-               {"tan", CExpressionItem::eFuncTan}};
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.name);
-    CExpressionItem item;
-    EXPECT_TRUE(CExpressionItem::SetFunctionFromName(c.name, item));
-    EXPECT_TRUE(item.IsFunction());
-    EXPECT_EQ(item.GetFunctionName(), c.function);
-  }
+struct FunctionNameRow {
+  const char* name;
+  const char* text;
+  CExpressionItem::eFunctionName function;
+};
+
+const FunctionNameRow kFunctionNames[] = {
+    {"upper_case_sqrt", "SQRT", CExpressionItem::eFuncSqrt},
+    {"lower_case_sqrt", "sqrt", CExpressionItem::eFuncSqrt},
+    {"capitalised_sin", "Sin", CExpressionItem::eFuncSin},
+    {"mixed_case_cos", "cOs", CExpressionItem::eFuncCos},
+    {"lower_case_tan", "tan", CExpressionItem::eFuncTan},
+};
+
+class CExpressionItemFunctionNames : public ::testing::TestWithParam<FunctionNameRow> {};
+
+TEST_P(CExpressionItemFunctionNames, FunctionNameIsReadInAnyCase) {
+  const FunctionNameRow& c = GetParam();
+  CExpressionItem item;
+  EXPECT_TRUE(CExpressionItem::SetFunctionFromName(c.text, item));
+  EXPECT_TRUE(item.IsFunction());
+  EXPECT_EQ(item.GetFunctionName(), c.function);
 }
+
+INSTANTIATE_TEST_SUITE_P(Names, CExpressionItemFunctionNames, ::testing::ValuesIn(kFunctionNames), RowName());
 
 TEST(CExpressionItem, UnknownFunctionNameLeavesTheItemAlone) {
   CExpressionItem item;

@@ -1,25 +1,32 @@
 // SPDX-License-Identifier: MIT
-// The expressions of tests/data/mathexpr/expressions.txt with their results, evaluated one by one.
+// The expressions of tests/data/mathexpr/expressions.txt with their results, one test per expression, run once
+// in the process's locale and once in a German one (decimal comma).
 #include <gtest/gtest.h>
 
 #include <clocale>
 #include <cmath>
-#include <fstream>
+#include <ostream>
 #include <string>
 #include <vector>
 
 #include "ncappkit/foundation/KCString.h"
 #include "ncappkit/mathexpr/KCC_MathExpression.h"
 #include "support/RecordingReporter.h"
+#include "support/TestData.h"
 
 namespace {
 
 struct Row {
-  int line = 0;
+  std::string name;
+  std::string where;  // "PATH:LINE: "
   std::string expression;
   std::string kind;
   std::string expected;
 };
+
+void PrintTo(const Row& row, std::ostream* out) {
+  *out << row.where << row.expression;
+}
 
 std::string Trim(const std::string& text) {
   const std::size_t first = text.find_first_not_of(' ');
@@ -28,62 +35,60 @@ std::string Trim(const std::string& text) {
   return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
-std::vector<Row> ReadRows(const std::string& path) {
+// The rows of the table, each named after its expression; "cannot be read" when the file is missing.
+std::vector<Row> ReadRows() {
+  const std::filesystem::path path = TestDataPath("mathexpr/expressions.txt");
+  std::vector<TableLine> lines;
+  std::string error;
+  if (!ReadTableLines(path, lines, error))
+    return {Row{"expressions_txt", "", "", "unreadable", error}};
   std::vector<Row> rows;
-  std::ifstream in(path);
-  std::string line;
-  int number = 0;
-  while (std::getline(in, line)) {
-    ++number;
-    if (line.empty() || line[0] == '#')
-      continue;
+  for (const TableLine& line : lines) {
     Row row;
-    row.line = number;
-    const std::size_t a = line.find(" | ");
-    const std::size_t b = a == std::string::npos ? std::string::npos : line.find(" | ", a + 3);
-    row.expression = Trim(line.substr(0, a));
+    row.where = Where(path, line.number);
+    const std::size_t a = line.text.find(" | ");
+    const std::size_t b = a == std::string::npos ? std::string::npos : line.text.find(" | ", a + 3);
+    row.expression = Trim(line.text.substr(0, a));
     row.kind = Trim(a == std::string::npos ? std::string()
-                                           : line.substr(a + 3, b == std::string::npos ? b : b - a - 3));
-    row.expected = b == std::string::npos ? std::string() : Trim(line.substr(b + 3));
+                                           : line.text.substr(a + 3, b == std::string::npos ? b : b - a - 3));
+    row.expected = b == std::string::npos ? std::string() : Trim(line.text.substr(b + 3));
+    row.name = SpelledTestName(row.expression);
     rows.push_back(row);
   }
+  MakeRowNamesUnique(rows);
   return rows;
 }
 
-void CheckEveryRow() {
-  const std::vector<Row> rows = ReadRows(std::string(NCAPPKIT_TEST_DATA_DIR) + "/mathexpr/expressions.txt");
-  ASSERT_GE(rows.size(), 30u);
-  for (const Row& row : rows) {
-    SCOPED_TRACE("line " + std::to_string(row.line) + ": " + row.expression);
-    RecordingReporter reporter;
-    KCC_MathExpression expr(reporter);
-    const bool parsed = expr.ParseMathExpression(row.expression);
-    if (row.kind == "noparse") {
-      EXPECT_FALSE(parsed);
-      continue;
-    }
-    ASSERT_TRUE(parsed);
-    ASSERT_FALSE(expr.HasEndlessEvaluation());
-    double value = -777.0;
-    const bool ok = expr.DoMathExpression(value);
-    if (row.kind == "value") {
-      ASSERT_TRUE(ok) << reporter.Message();
-      if (row.expected == "nan")
-        EXPECT_TRUE(std::isnan(value));
-      else if (row.expected == "inf")
-        EXPECT_EQ(value, HUGE_VAL);
-      else
-        EXPECT_DOUBLE_EQ(value, KCString(row.expected).AsDouble(-777.0));
-    } else {
-      ASSERT_EQ(row.kind, "fail");
-      EXPECT_FALSE(ok);
-      EXPECT_EQ(value, -777.0);
-      const std::string message = reporter.Message().str();
-      if (row.expected == "-")
-        EXPECT_TRUE(reporter.Calls().empty()) << message;
-      else
-        EXPECT_EQ(message.substr(0, row.expected.size()), row.expected);
-    }
+void CheckRow(const Row& row) {
+  ASSERT_NE(row.kind, "unreadable") << row.expected;
+  RecordingReporter reporter;
+  KCC_MathExpression expr(reporter);
+  const bool parsed = expr.ParseMathExpression(row.expression);
+  if (row.kind == "noparse") {
+    EXPECT_FALSE(parsed);
+    return;
+  }
+  ASSERT_TRUE(parsed);
+  ASSERT_FALSE(expr.HasEndlessEvaluation());
+  double value = -777.0;
+  const bool ok = expr.DoMathExpression(value);
+  if (row.kind == "value") {
+    ASSERT_TRUE(ok) << reporter.Message();
+    if (row.expected == "nan")
+      EXPECT_TRUE(std::isnan(value));
+    else if (row.expected == "inf")
+      EXPECT_EQ(value, HUGE_VAL);
+    else
+      EXPECT_DOUBLE_EQ(value, KCString(row.expected).AsDouble(-777.0));
+  } else {
+    ASSERT_EQ(row.kind, "fail");
+    EXPECT_FALSE(ok);
+    EXPECT_EQ(value, -777.0);
+    const std::string message = reporter.Message().str();
+    if (row.expected == "-")
+      EXPECT_TRUE(reporter.Calls().empty()) << message;
+    else
+      EXPECT_EQ(message.substr(0, row.expected.size()), row.expected);
   }
 }
 
@@ -101,17 +106,31 @@ class GermanLocale {
   bool m_active = false;
 };
 
+class KccMathExpressionTable : public ::testing::TestWithParam<Row> {};
+
 }  // namespace
 
-TEST(KccMathExpressionTable, EveryListedExpressionGivesItsResult) {
-  CheckEveryRow();
+TEST_P(KccMathExpressionTable, GivesItsResult) {
+  CheckRow(GetParam());
 }
 
-TEST(KccMathExpressionTable, ResultsDoNotDependOnTheLocale) {
+TEST_P(KccMathExpressionTable, GivesItsResultInAGermanLocale) {
   const GermanLocale german;
   if (!german.Active())
     GTEST_SKIP() << "de_DE locale not installed";
-  CheckEveryRow();
+  CheckRow(GetParam());
+}
+
+INSTANTIATE_TEST_SUITE_P(Expressions, KccMathExpressionTable, ::testing::ValuesIn(ReadRows()), RowName());
+
+TEST(KccMathExpressionTableFile, HoldsTheListedExpressions) {
+  EXPECT_GE(ReadRows().size(), 30u);
+}
+
+TEST(KccMathExpressionTableFile, ReportedNumbersDoNotDependOnTheLocale) {
+  const GermanLocale german;
+  if (!german.Active())
+    GTEST_SKIP() << "de_DE locale not installed";
   RecordingReporter reporter;
   KCC_MathExpression expr(reporter);
   ASSERT_TRUE(expr.ParseMathExpression("2.5*1"));

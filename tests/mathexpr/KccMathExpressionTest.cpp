@@ -12,10 +12,17 @@
 #include "ncappkit/foundation/KCC_MessageReporter.h"
 #include "ncappkit/mathexpr/KCC_MathExpression.h"
 #include "support/RecordingReporter.h"
+#include "support/TestData.h"
 
 namespace {
 
 constexpr double kNotWritten = -12345.0;
+
+// A row of a TEST_P table of expression texts.
+struct TextRow {
+  const char* name;
+  const char* text;
+};
 
 // Parses and evaluates `text`; `value` keeps kNotWritten unless the evaluation succeeds.
 struct Outcome {
@@ -271,16 +278,24 @@ TEST(KccMathExpression, ParsingAgainStartsFromAnEmptyList) {
   EXPECT_TRUE(expr.GetItemList().empty());
 }
 
-TEST(KccMathExpression, LoneOperatorFails) {
-  for (const char* text : {"+", "-", "*", "/"}) {
-    SCOPED_TRACE(text);
-    RecordingReporter reporter;
-    const Outcome outcome = ParseAndEvaluate(text, reporter);
-    EXPECT_TRUE(outcome.parsed);
-    EXPECT_FALSE(outcome.evaluated);
-    EXPECT_TRUE(reporter.Calls().empty());  // a one-item list is taken as it stands
-  }
+namespace {
+
+const TextRow kLoneOperators[] = {{"plus", "+"}, {"minus", "-"}, {"times", "*"}, {"divided_by", "/"}};
+
+class KccMathExpressionLoneOperator : public ::testing::TestWithParam<TextRow> {};
+
+}  // namespace
+
+TEST_P(KccMathExpressionLoneOperator, Fails) {
+  RecordingReporter reporter;
+  const Outcome outcome = ParseAndEvaluate(GetParam().text, reporter);
+  EXPECT_TRUE(outcome.parsed);
+  EXPECT_FALSE(outcome.evaluated);
+  EXPECT_TRUE(reporter.Calls().empty());  // a one-item list is taken as it stands
 }
+
+INSTANTIATE_TEST_SUITE_P(Operators, KccMathExpressionLoneOperator, ::testing::ValuesIn(kLoneOperators),
+                         RowName());
 
 TEST(KccMathExpression, OperatorWithoutRightOperandFails) {
   RecordingReporter reporter;
@@ -336,26 +351,53 @@ TEST(KccMathExpression, TwoOperandsWithoutOperatorNeverFinish) {
   EXPECT_EQ(value, kNotWritten);
 }
 
-TEST(KccMathExpression, ProbeFindsListsThatNeverFinish) {
+namespace {
+
+const TextRow kEndlessLists[] = {
+    {"two_numbers_side_by_side", "2 3"},
+    {"function_without_brackets", "SQRT 4"},
+    {"function_before_a_sum_without_brackets", "sin 2+3"},
+    {"number_before_brackets", "2(3)"},
+    {"brackets_side_by_side", "(1)(2)"},
+    {"decimal_comma", "2,5"},
+    {"numbers_side_by_side_in_brackets", "1+(2 3)"},
+    {"number_after_a_function", "sqrt(2)3"},
+};
+
+const TextRow kFinishingLists[] = {
+    {"sum_and_product", "2+3*4"},
+    {"unclosed_bracket", "((1+2)"},
+    {"brackets_the_wrong_way_round", ")1+2("},
+    {"minus_after_an_operator", "2*-3"},
+    {"empty_brackets", "()"},
+    {"lone_plus", "+"},
+    {"functions_with_both_bracket_kinds", "sqrt(16)+Cos[0]"},
+    {"function_name_alone", "SQRT"},
+    {"leading_minus", "-3*2"},
+};
+
+class KccMathExpressionEndless : public ::testing::TestWithParam<TextRow> {};
+class KccMathExpressionFinishing : public ::testing::TestWithParam<TextRow> {};
+
+}  // namespace
+
+TEST_P(KccMathExpressionEndless, ProbeFindsTheListNeverFinishes) {
   KCC_MessageNone quiet;
   KCC_MathExpression expr(quiet);
-  for (const char* text : {"2 3", "SQRT 4", "sin 2+3", "2(3)", "(1)(2)", "2,5", "1+(2 3)", "sqrt(2)3"}) {
-    SCOPED_TRACE(text);
-    ASSERT_TRUE(expr.ParseMathExpression(text));
-    EXPECT_TRUE(expr.HasEndlessEvaluation());
-  }
+  ASSERT_TRUE(expr.ParseMathExpression(GetParam().text));
+  EXPECT_TRUE(expr.HasEndlessEvaluation());
 }
 
-TEST(KccMathExpression, ProbePassesListsThatFinish) {
+INSTANTIATE_TEST_SUITE_P(Lists, KccMathExpressionEndless, ::testing::ValuesIn(kEndlessLists), RowName());
+
+TEST_P(KccMathExpressionFinishing, ProbePassesTheList) {
   KCC_MessageNone quiet;
   KCC_MathExpression expr(quiet);
-  for (const char* text :
-       {"2+3*4", "((1+2)", ")1+2(", "2*-3", "()", "+", "sqrt(16)+Cos[0]", "SQRT", "-3*2"}) {
-    SCOPED_TRACE(text);
-    ASSERT_TRUE(expr.ParseMathExpression(text));
-    EXPECT_FALSE(expr.HasEndlessEvaluation());
-  }
+  ASSERT_TRUE(expr.ParseMathExpression(GetParam().text));
+  EXPECT_FALSE(expr.HasEndlessEvaluation());
 }
+
+INSTANTIATE_TEST_SUITE_P(Lists, KccMathExpressionFinishing, ::testing::ValuesIn(kFinishingLists), RowName());
 
 TEST(KccMathExpression, ProbeReportsNothingAndKeepsTheList) {
   RecordingReporter reporter;
@@ -412,34 +454,49 @@ TEST(KccMathExpression, ReporterEndsWithTheLastListShown) {
   EXPECT_EQ(reporter.Message(), "Result SubList\n\n[Operand]  : 14\n");
 }
 
-TEST(KccMathExpression, ReportedNumbersUseTheShortestText) {
-  const double values[] = {0.1,
-                           -0.0,
-                           2.5,
-                           1e22,
-                           123456789012345678.0,
-                           9007199254740993.0,
-                           1e-7,
-                           -1e300,
-                           1.0 / 3,
-                           7.0,
-                           -42.0,
-                           std::numeric_limits<double>::quiet_NaN(),
-                           1e308 * 10,
-                           -1e308 * 10};
-  for (double v : values) {
-    SCOPED_TRACE(v);
-    RecordingReporter reporter;
-    KCC_MathExpression expr(reporter);
-    expr.AddOperand(v);
-    expr.AddOperator('+');
-    double result = 0.0;
-    EXPECT_FALSE(expr.DoMathExpression(result));
-    ASSERT_FALSE(reporter.Calls().empty());
-    EXPECT_EQ(reporter.Calls().front().text,
-              KCString("SubList\n\n[Operand]  : ") + KCString(v, -1, false) + KCString("\n[Operator] : +\n"));
-  }
+namespace {
+
+struct NumberRow {
+  const char* name;
+  double value;
+};
+
+const NumberRow kReportedNumbers[] = {
+    {"a_tenth", 0.1},
+    {"negative_zero", -0.0},
+    {"two_and_a_half", 2.5},
+    {"ten_to_the_22", 1e22},
+    {"eighteen_digit_integer", 123456789012345678.0},
+    {"above_two_to_the_53", 9007199254740993.0},
+    {"ten_to_the_minus_7", 1e-7},
+    {"minus_ten_to_the_300", -1e300},
+    {"one_third", 1.0 / 3},
+    {"seven", 7.0},
+    {"minus_forty_two", -42.0},
+    {"not_a_number", std::numeric_limits<double>::quiet_NaN()},
+    {"infinity", 1e308 * 10},
+    {"minus_infinity", -1e308 * 10},
+};
+
+class KccMathExpressionReportedNumber : public ::testing::TestWithParam<NumberRow> {};
+
+}  // namespace
+
+TEST_P(KccMathExpressionReportedNumber, UsesTheShortestText) {
+  const double v = GetParam().value;
+  RecordingReporter reporter;
+  KCC_MathExpression expr(reporter);
+  expr.AddOperand(v);
+  expr.AddOperator('+');
+  double result = 0.0;
+  EXPECT_FALSE(expr.DoMathExpression(result));
+  ASSERT_FALSE(reporter.Calls().empty());
+  EXPECT_EQ(reporter.Calls().front().text,
+            KCString("SubList\n\n[Operand]  : ") + KCString(v, -1, false) + KCString("\n[Operator] : +\n"));
 }
+
+INSTANTIATE_TEST_SUITE_P(Numbers, KccMathExpressionReportedNumber, ::testing::ValuesIn(kReportedNumbers),
+                         RowName());
 
 // ----- list building, text form, copies -----
 

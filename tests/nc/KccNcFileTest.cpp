@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Splitting NC text into main programs and sub-programs, loading files and saving them.
+// Splitting NC text into main programs and sub-programs, loading files and saving them. The cases where one
+// text splits into programs, or fails to, are the case folders of tests/data/nc/split_cases and
+// tests/data/nc/bad (NcSplitCasesTest.cpp); the tests here are of other shapes: the loader's line tests,
+// string lists a file cannot hold, loads that follow earlier loads, the line budget, list operations and saving.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -46,93 +49,7 @@ bool Ends(const char* line) {
 
 }  // namespace
 
-TEST(KccNcFile, SingleMainProgramWithoutKeepingTheUnfinishedRest) {
-  KCC_NcFile file;
-  KCC_NcFileProgram* result =
-      file.LoadFromStringList(Lines({"%", "O0001", "G00 X0", "M30", "%"}), false, false);
-  ASSERT_NE(result, nullptr);
-  EXPECT_TRUE(file.HasNoError());
-  ASSERT_EQ(file.GetNumberOfMainPrograms(), 1);
-  EXPECT_TRUE(file.IsSubProgramsEmpty());
-  KCC_NcFileProgram* main = file.GetMainProgList().GetProgram(0);
-  EXPECT_EQ(result, main);
-  EXPECT_EQ(main->GetProgramNumber(), 1);
-  EXPECT_EQ(LinesOf(*main), (std::vector<std::string>{"O0001", "G00 X0", "M30"}));
-}
-
-TEST(KccNcFile, KeepUnfinishedStoresTheEmptyRestAsSubProgram) {
-  KCC_NcFile file;
-  KCC_NcFileProgram* result =
-      file.LoadFromStringList(Lines({"%", "O0001", "G00 X0", "M30", "%"}), false, true);
-  EXPECT_TRUE(file.HasNoError());
-  ASSERT_EQ(file.GetNumberOfMainPrograms(), 1);
-  ASSERT_EQ(file.GetNumberOfSubPrograms(), 1);
-  KCC_NcFileProgram* rest = file.GetSubProgList().GetProgram(0);
-  EXPECT_EQ(result, rest);
-  EXPECT_TRUE(rest->GetStringList().empty());
-  EXPECT_EQ(rest->GetProgramNumber(), -1);
-}
-
-TEST(KccNcFile, SubProgramIsFiledAtTheNextNumberLine) {
-  KCC_NcFile file;
-  KCC_NcFileProgram* result = file.LoadFromStringList(
-      Lines({"O8010 (SUB)", "G01 X1", "M99", "O0100", "M98 P8010", "M30"}), false, false);
-  ASSERT_EQ(file.GetNumberOfSubPrograms(), 1);
-  ASSERT_EQ(file.GetNumberOfMainPrograms(), 1);
-  KCC_NcFileProgram* sub = file.GetSubProgList().GetProgram(0);
-  EXPECT_EQ(sub->GetProgramNumber(), 8010);
-  EXPECT_EQ(sub->GetProgramRef(), "SUB");
-  EXPECT_EQ(LinesOf(*sub), (std::vector<std::string>{"O8010 (SUB)", "G01 X1", "M99"}));
-  EXPECT_EQ(result, file.GetMainProgList().GetProgram(0));
-  EXPECT_EQ(result->GetProgramNumber(), 100);
-}
-
-TEST(KccNcFile, LinesAfterASubProgramEndStayWithIt) {
-  KCC_NcFile file;
-  file.LoadFromStringList(Lines({"O8010", "M99", "(TRAILER)", "O0100", "M30"}), false, false);
-  ASSERT_EQ(file.GetNumberOfSubPrograms(), 1);
-  EXPECT_EQ(LinesOf(*file.GetSubProgList().GetProgram(0)),
-            (std::vector<std::string>{"O8010", "M99", "(TRAILER)"}));
-}
-
-TEST(KccNcFile, PendingSubProgramAtTheEndIsStoredAndIsTheResult) {
-  KCC_NcFile file;
-  KCC_NcFileProgram* result = file.LoadFromStringList(Lines({"O1", "M30", "O2", "M99"}), false, false);
-  ASSERT_EQ(file.GetNumberOfSubPrograms(), 1);
-  EXPECT_EQ(result, file.GetSubProgList().GetProgram(0));
-  EXPECT_EQ(result->GetProgramNumber(), 2);
-}
-
-TEST(KccNcFile, FanucFirstBlockMakesAnM99ProgramAMainProgram) {
-  KCC_NcFile file;
-  file.LoadFromStringList(Lines({"O0001", "N10 M98 P8010", "M99"}), true, false);
-  EXPECT_TRUE(file.HasNoError());
-  EXPECT_EQ(file.GetNumberOfMainPrograms(), 1);
-  EXPECT_TRUE(file.IsSubProgramsEmpty());
-  EXPECT_TRUE(file.IsFanucNcFileStructure());
-}
-
-TEST(KccNcFile, SiemensFirstBlockMakesARetProgramAMainProgram) {
-  KCC_NcFile file;
-  file.LoadFromStringList(Lines({"N50 FIRST_BLOCK", "N60 G0 X0", "RET"}), true, false);
-  EXPECT_TRUE(file.HasNoError());
-  EXPECT_EQ(file.GetNumberOfMainPrograms(), 1);
-  EXPECT_TRUE(file.IsSubProgramsEmpty());
-  EXPECT_TRUE(file.IsSiemensNcFileStructure());
-}
-
-TEST(KccNcFile, WithoutFirstBlockCheckAnM99ProgramStaysASubProgram) {
-  KCC_NcFile file;
-  file.LoadFromStringList(Lines({"O0001", "N10 M98 P8010", "M99"}), false, false);
-  EXPECT_TRUE(file.IsMainProgramsEmpty());
-  EXPECT_EQ(file.GetNumberOfSubPrograms(), 1);
-}
-
-TEST(KccNcFile, M300AndM991DoNotEndAProgram) {
-  KCC_NcFile file;
-  file.LoadFromStringList(Lines({"O1", "M300", "M991", "M30"}), false, false);
-  ASSERT_EQ(file.GetNumberOfMainPrograms(), 1);
-  EXPECT_EQ(file.GetMainProgList().GetProgram(0)->GetStringList().size(), 4u);
+TEST(KccNcFile, M300AndM991AreNoEndLines) {
   EXPECT_FALSE(Ends("M300"));
   EXPECT_FALSE(Ends("M991"));
 }
@@ -204,54 +121,11 @@ TEST(KccNcFile, ColonOIsNoProgramNumberLineForTheLoader) {
   EXPECT_FALSE(probe.ParseProgramNumberLine("O", number, ref));
 }
 
-TEST(KccNcFile, NumberLineInsideAnOpenProgramRenamesIt) {
-  KCC_NcFile file;
-  file.LoadFromStringList(Lines({"O1 (A)", "G0 X0", "O2 (B)", "M30"}), false, false);
-  ASSERT_EQ(file.GetNumberOfMainPrograms(), 1);
-  KCC_NcFileProgram* p = file.GetMainProgList().GetProgram(0);
-  EXPECT_EQ(p->GetProgramNumber(), 2);
-  EXPECT_EQ(p->GetProgramRef(), "B");
-  EXPECT_EQ(p->GetStringList().size(), 4u);
-}
-
 TEST(KccNcFile, LeadingBlanksAndLineEndsAreRemovedFromLines) {
   KCC_NcFile file;
   file.LoadFromStringList(Lines({"\r\n  O5", " \tM30"}), false, false);
   ASSERT_EQ(file.GetNumberOfMainPrograms(), 1);
   EXPECT_EQ(LinesOf(*file.GetMainProgList().GetProgram(0)), (std::vector<std::string>{"O5", "M30"}));
-}
-
-TEST(KccNcFile, OnlyLineEndsBeforeTheFirstBlankCountAsBlanks) {
-  // Line ends at the very start become blanks; one that follows a blank is part of the text, so " \rO7"
-  // is no program-number line.
-  KCC_NcFile file;
-  file.LoadFromStringList(Lines({" \rO7", "M30"}), false, false);
-  ASSERT_EQ(file.GetNumberOfMainPrograms(), 1);
-  KCC_NcFileProgram* main = file.GetMainProgList().GetProgram(0);
-  EXPECT_EQ(main->GetProgramNumber(), -1);
-  EXPECT_EQ(LinesOf(*main), (std::vector<std::string>{"\rO7", "M30"}));
-}
-
-TEST(KccNcFile, EmptyTextWithKeepUnfinishedGivesOneEmptyProgram) {
-  KCC_NcFile file;
-  KCC_NcFileProgram* result = file.LoadFromStringList(KCStringList(), false, true);
-  ASSERT_NE(result, nullptr);
-  EXPECT_TRUE(file.HasNoError());
-  EXPECT_EQ(file.GetNumberOfSubPrograms(), 1);
-  EXPECT_TRUE(result->GetStringList().empty());
-}
-
-TEST(KccNcFile, EmptyTextWithoutKeepUnfinishedHasNoNcStructure) {
-  KCC_NcFile file;
-  EXPECT_EQ(file.LoadFromStringList(KCStringList(), false, false), nullptr);
-  EXPECT_TRUE(file.HasFileWithoutNcStructureError());
-}
-
-TEST(KccNcFile, TextWithoutEndCodeHasNoNcStructure) {
-  KCC_NcFile file;
-  EXPECT_EQ(file.LoadFromStringList(Lines({"O1", "G0 X0", "M02"}), false, false), nullptr);
-  EXPECT_TRUE(file.HasFileWithoutNcStructureError());
-  EXPECT_TRUE(file.IsSubProgramsEmpty());
 }
 
 TEST(KccNcFile, NineHundredNinetyNineThousandNineHundredNinetyEightLinesLoad) {
@@ -326,27 +200,6 @@ TEST(KccNcFile, MissingFileIsReportedAndTheListsStay) {
   EXPECT_EQ(file.LoadFromFile(dir.Path("none.nc"), false, false), nullptr);
   EXPECT_TRUE(file.HasFileNotFoundError());
   EXPECT_EQ(file.GetNumberOfMainPrograms(), 1);
-}
-
-TEST(KccNcFile, LoadsAFileWithProgramsAndRemembersItsName) {
-  TempDir dir;
-  const std::string path = dir.WriteFile("p.nc", "%\nO1 (ONE)\nG0 X0\nM30\nO8000\nM99\n%\n");
-  KCC_NcFile file;
-  ASSERT_NE(file.LoadFromFile(path, false, false), nullptr);
-  EXPECT_TRUE(file.HasNoError());
-  EXPECT_EQ(file.GetLoadedFromFileId(), path);
-  EXPECT_EQ(file.GetNumberOfMainPrograms(), 1);
-  EXPECT_EQ(file.GetNumberOfSubPrograms(), 1);
-  EXPECT_EQ(file.GetMainProgList().GetProgram(0)->GetProgramRef(), "ONE");
-}
-
-TEST(KccNcFile, FileWithoutProgramsStillRemembersItsName) {
-  TempDir dir;
-  const std::string path = dir.WriteFile("p.nc", "G0 X0\n");
-  KCC_NcFile file;
-  EXPECT_EQ(file.LoadFromFile(path, false, false), nullptr);
-  EXPECT_TRUE(file.HasFileWithoutNcStructureError());
-  EXPECT_EQ(file.GetLoadedFromFileId(), path);
 }
 
 TEST(KccNcFile, SaveWritesThePercentLinesBackMainProgramsFirst) {
@@ -538,51 +391,6 @@ TEST(KccNcFile, CopySharesTheProgramsWithTheOriginal) {
   copy.GetSubProgList().Detach();
 }
 
-TEST(KccNcFile, PendingSubProgramThatMeetsM30BecomesAMainProgram) {
-  KCC_NcFile file;
-  file.LoadFromStringList(Lines({"O5", "M99", "G0 X0", "M30", "O6", "M30"}), false, false);
-  ASSERT_EQ(file.GetNumberOfMainPrograms(), 2);
-  EXPECT_EQ(LinesOf(*file.GetMainProgList().GetProgram(0)),
-            (std::vector<std::string>{"O5", "M99", "G0 X0", "M30"}));
-  EXPECT_EQ(file.GetMainProgList().GetProgram(1)->GetProgramNumber(), 6);
-}
-
-TEST(KccNcFile, PendingStateOutlivesAnM30SoTheNextNumberLineFilesAnEmptySubProgram) {
-  // The pending state is cleared only by a program-number line: after "M99 ... M30" the fresh, still empty
-  // program is filed as a sub-program when O6 arrives.
-  KCC_NcFile file;
-  KCC_NcFileProgram* result =
-      file.LoadFromStringList(Lines({"O5", "M99", "G0 X0", "M30", "O6", "M99"}), false, false);
-  ASSERT_EQ(file.GetNumberOfMainPrograms(), 1);
-  ASSERT_EQ(file.GetNumberOfSubPrograms(), 2);
-  KCC_NcFileProgram* empty = file.GetSubProgList().GetProgram(0);
-  EXPECT_EQ(empty->GetProgramNumber(), -1);
-  EXPECT_TRUE(empty->GetStringList().empty());
-  EXPECT_EQ(file.GetSubProgList().GetProgram(1)->GetProgramNumber(), 6);
-  EXPECT_EQ(result, file.GetSubProgList().GetProgram(1));
-}
-
-TEST(KccNcFile, PendingStateOutlivesAnM30AtTheEndOfTheText) {
-  // After "M99 ... M30" the pending state files the empty rest as a sub-program even without keepUnfinished.
-  KCC_NcFile file;
-  KCC_NcFileProgram* result = file.LoadFromStringList(Lines({"O5", "M99", "M30"}), false, false);
-  ASSERT_EQ(file.GetNumberOfMainPrograms(), 1);
-  ASSERT_EQ(file.GetNumberOfSubPrograms(), 1);
-  EXPECT_TRUE(file.GetSubProgList().GetProgram(0)->GetStringList().empty());
-  EXPECT_EQ(result, file.GetSubProgList().GetProgram(0));
-  EXPECT_TRUE(file.HasNoError());
-}
-
-TEST(KccNcFile, PendingStateOutlivesAFirstBlockMainProgram) {
-  KCC_NcFile file;
-  file.LoadFromStringList(Lines({"O5", "M99", "M98 P8010", "M99", "O6", "M30"}), true, false);
-  ASSERT_EQ(file.GetNumberOfMainPrograms(), 2);
-  EXPECT_EQ(LinesOf(*file.GetMainProgList().GetProgram(0)),
-            (std::vector<std::string>{"O5", "M99", "M98 P8010", "M99"}));
-  ASSERT_EQ(file.GetNumberOfSubPrograms(), 1);
-  EXPECT_EQ(file.GetSubProgList().GetProgram(0)->GetProgramNumber(), -1);
-}
-
 TEST(KccNcFile, LoadWithoutProgramsLeavesTheListsOfTheLoadBeforeEmpty) {
   KCC_NcFile file;
   file.LoadFromStringList(Lines({"O1", "M30", "O2", "M99"}), false, false);
@@ -615,14 +423,6 @@ TEST(KccNcFile, StructureStaysFromAnEarlierLoadWhenNoFirstBlockIsFound) {
   file.LoadFromStringList(Lines({"O1", "N50 FIRST_BLOCK", "RET"}), true, false);
   ASSERT_TRUE(file.IsSiemensNcFileStructure());
   file.LoadFromStringList(Lines({"O2", "G0 X0", "M30"}), true, false);
-  EXPECT_TRUE(file.IsSiemensNcFileStructure());
-}
-
-TEST(KccNcFile, EachProgramLooksForItsOwnFirstBlockAndTheLastOneFoundSetsTheStructure) {
-  KCC_NcFile file;
-  file.LoadFromStringList(Lines({"O1", "M98 P8010", "M99", "O2", "N50FIRST_BLOCK", "RET"}), true, false);
-  EXPECT_EQ(file.GetNumberOfMainPrograms(), 2);
-  EXPECT_TRUE(file.IsSubProgramsEmpty());
   EXPECT_TRUE(file.IsSiemensNcFileStructure());
 }
 

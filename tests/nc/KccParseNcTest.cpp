@@ -1,10 +1,17 @@
 // SPDX-License-Identifier: MIT
-// Decoding NC blocks and the stand-alone line tests of KCC_ParseNc.
+// Decoding NC blocks and the stand-alone line tests of KCC_ParseNc. The "block -> words" cases are the table
+// tests/data/nc/decode_blocks.txt (one KccParseNcBlocks test per case); the tests below it are of other
+// shapes: getters that leave values alone, the integer forms of real letters, copies, and the line tests.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <ostream>
 #include <string>
+#include <vector>
 
 #include "ncappkit/nc/KCC_ParseNc.h"
+#include "support/NcBlockWords.h"
+#include "support/TestData.h"
 
 namespace {
 
@@ -20,28 +27,88 @@ double X(const KCC_ParseNc& p) {
   return v;
 }
 
+// One case of tests/data/nc/decode_blocks.txt.
+struct BlockCase {
+  std::string name;
+  std::string where;  // "PATH:LINE: " of its [name] line
+  std::string block;
+  bool complete = true;
+  std::string words;  // in NcBlockWords' form
+  std::string error;  // why the case could not be read
+};
+
+void PrintTo(const BlockCase& c, std::ostream* out) {
+  *out << c.where << "block \"" << EscapeText(c.block) << "\"";
+}
+
+BlockCase ReadBlockCase(const std::filesystem::path& path, const TableSection& section) {
+  BlockCase c;
+  c.name = section.name;
+  c.where = Where(path, section.number);
+  int blockLines = 0, resultLines = 0;
+  for (const TableLine& line : section.lines) {
+    std::vector<std::string> words;
+    std::string error;
+    if (!SplitWords(line.text, words, error)) {
+      c.error = Where(path, line.number) + error;
+      return c;
+    }
+    if (words[0] == "block" && words.size() == 2) {
+      c.block = words[1];
+      ++blockLines;
+    } else if ((words[0] == "complete" || words[0] == "malformed") && words.size() == 1) {
+      c.complete = words[0] == "complete";
+      ++resultLines;
+    } else {
+      c.words += line.text + "\n";
+    }
+  }
+  if (blockLines != 1 || resultLines != 1)
+    c.error = c.where + "a case needs one 'block \"TEXT\"' line and one 'complete' or 'malformed' line";
+  return c;
+}
+
+std::vector<BlockCase> ReadBlockCases() {
+  const std::filesystem::path path = TestDataPath("nc/decode_blocks.txt");
+  std::vector<TableSection> sections;
+  BlockCase failed;
+  failed.name = "decode_blocks_txt";
+  if (!ReadTableSections(path, sections, failed.error))
+    return {failed};
+  std::vector<BlockCase> cases;
+  for (const TableSection& section : sections)
+    cases.push_back(ReadBlockCase(path, section));
+  if (cases.empty()) {
+    failed.error = path.u8string() + ": no cases";
+    cases.push_back(failed);
+  }
+  return cases;
+}
+
+// A block with a word for every address the parser decodes.
+constexpr const char* kEveryAddress = "A1 B1 C1 D1 E1 F1 G1 G2 I1 J1 K1 L1 M1 M2 N1 P1 S1 R1 T1 V1 X1 Y1";
+
+class KccParseNcBlocks : public ::testing::TestWithParam<BlockCase> {};
+
 }  // namespace
 
-TEST(KccParseNc, DecodesTheExampleBlockIntoItsWords) {
-  KCC_ParseNc parser;
-  ASSERT_TRUE(parser.DecodeISOLine("N10 G01 X-12.5 Y0.25 F300 M03 (CUT) M08"));
-  int n = 0, g = 0, f = 0, m = 0, m2 = 0;
-  double x = 0.0, y = 0.0;
-  EXPECT_TRUE(parser.GetNCommand(n));
-  EXPECT_EQ(n, 10);
-  EXPECT_TRUE(parser.GetGprimCommand(g));
-  EXPECT_EQ(g, 1);
-  EXPECT_TRUE(parser.GetXCommand(x));
-  EXPECT_DOUBLE_EQ(x, -12.5);
-  EXPECT_TRUE(parser.GetYCommand(y));
-  EXPECT_DOUBLE_EQ(y, 0.25);
-  EXPECT_TRUE(parser.GetFCommand(f));
-  EXPECT_EQ(f, 300);
-  EXPECT_TRUE(parser.GetMprimCommand(m));
-  EXPECT_EQ(m, 3);
-  EXPECT_TRUE(parser.GetMsecCommand(m2));
-  EXPECT_EQ(m2, 8);
+TEST_P(KccParseNcBlocks, DecodesTheListedWords) {
+  const BlockCase& c = GetParam();
+  ASSERT_TRUE(c.error.empty()) << c.error;
+
+  KCC_ParseNc fresh;
+  EXPECT_EQ(fresh.DecodeISOLine(c.block), c.complete) << c.where;
+  EXPECT_EQ(NcBlockWords(fresh, c.block), c.words) << c.where;
+
+  KCC_ParseNc used;
+  ASSERT_TRUE(used.DecodeISOLine(kEveryAddress));
+  const std::string every = NcBlockWords(used, kEveryAddress);
+  ASSERT_EQ(std::count(every.begin(), every.end(), '\n'), 22) << every;
+  EXPECT_EQ(used.DecodeISOLine(c.block), c.complete) << c.where << "after a block with every address";
+  EXPECT_EQ(NcBlockWords(used, c.block), c.words) << c.where << "after a block with every address";
 }
+
+INSTANTIATE_TEST_SUITE_P(Table, KccParseNcBlocks, ::testing::ValuesIn(ReadBlockCases()), RowName());
 
 TEST(KccParseNc, GettersOfAbsentLettersReturnFalseAndLeaveTheValue) {
   KCC_ParseNc parser;
@@ -52,141 +119,6 @@ TEST(KccParseNc, GettersOfAbsentLettersReturnFalseAndLeaveTheValue) {
   EXPECT_EQ(t, 77);
   EXPECT_FALSE(parser.GetRCommand(r));
   EXPECT_DOUBLE_EQ(r, 7.5);
-}
-
-TEST(KccParseNc, EmptyLineFailsAndClearsEverySlot) {
-  KCC_ParseNc parser;
-  ASSERT_TRUE(parser.DecodeISOLine("X5 Y6"));
-  EXPECT_FALSE(parser.DecodeISOLine(""));
-  double v = 0.0;
-  EXPECT_FALSE(parser.GetXCommand(v));
-  EXPECT_FALSE(parser.GetYCommand(v));
-}
-
-TEST(KccParseNc, OneCharacterLineFailsAndClearsEverySlot) {
-  KCC_ParseNc parser;
-  ASSERT_TRUE(parser.DecodeISOLine("X5"));
-  EXPECT_FALSE(parser.DecodeISOLine("   X"));
-  double v = 0.0;
-  EXPECT_FALSE(parser.GetXCommand(v));
-}
-
-TEST(KccParseNc, NothingInsideACommentIsDecoded) {
-  KCC_ParseNc parser;
-  ASSERT_TRUE(parser.DecodeISOLine("X10 (X20) Y5"));
-  double y = 0.0;
-  EXPECT_DOUBLE_EQ(X(parser), 10.0);
-  EXPECT_TRUE(parser.GetYCommand(y));
-  EXPECT_DOUBLE_EQ(y, 5.0);
-}
-
-TEST(KccParseNc, UnclosedCommentHidesTheRestOfTheLine) {
-  KCC_ParseNc parser;
-  ASSERT_TRUE(parser.DecodeISOLine("X1 (NOTE Y2"));
-  double y = 0.0;
-  EXPECT_DOUBLE_EQ(X(parser), 1.0);
-  EXPECT_FALSE(parser.GetYCommand(y));
-}
-
-TEST(KccParseNc, RepeatedLetterContinuesTheEarlierWord) {
-  KCC_ParseNc parser;
-  ASSERT_TRUE(parser.DecodeISOLine("X10 X20"));
-  EXPECT_DOUBLE_EQ(X(parser), 1020.0);
-}
-
-TEST(KccParseNc, LaterGCodesAccumulateInTheSecondarySlot) {
-  KCC_ParseNc parser;
-  ASSERT_TRUE(parser.DecodeISOLine("G17 G90 G00"));
-  int prim = 0;
-  double sec = 0.0;
-  EXPECT_TRUE(parser.GetGprimCommand(prim));
-  EXPECT_EQ(prim, 17);
-  EXPECT_TRUE(parser.GetGsecundCommand(sec));
-  EXPECT_DOUBLE_EQ(sec, 9000.0);
-}
-
-TEST(KccParseNc, ThirdGCodeContinuesTheSecondary) {
-  KCC_ParseNc parser;
-  ASSERT_TRUE(parser.DecodeISOLine("G90 G01 G02"));
-  double sec = 0.0;
-  EXPECT_TRUE(parser.GetGsecundCommand(sec));
-  EXPECT_DOUBLE_EQ(sec, 102.0);
-}
-
-TEST(KccParseNc, MinusInsideAWordNegatesAtTheNextDigit) {
-  KCC_ParseNc parser;
-  ASSERT_TRUE(parser.DecodeISOLine("X5-3"));
-  EXPECT_DOUBLE_EQ(X(parser), -53.0);
-}
-
-TEST(KccParseNc, SecondMinusAfterAppliedSignFlipsBack) {
-  KCC_ParseNc parser;
-  ASSERT_TRUE(parser.DecodeISOLine("X-5-3"));
-  EXPECT_DOUBLE_EQ(X(parser), 53.0);
-}
-
-TEST(KccParseNc, SignWaitsForTheFirstNonZeroDigit) {
-  KCC_ParseNc parser;
-  ASSERT_TRUE(parser.DecodeISOLine("X-0.5 Y-05"));
-  double y = 0.0;
-  EXPECT_DOUBLE_EQ(X(parser), -0.5);
-  EXPECT_TRUE(parser.GetYCommand(y));
-  EXPECT_DOUBLE_EQ(y, -5.0);
-}
-
-TEST(KccParseNc, DoubleMinusFailsAndKeepsEarlierWords) {
-  KCC_ParseNc parser;
-  EXPECT_FALSE(parser.DecodeISOLine("Y7 X--5"));
-  double y = 0.0;
-  EXPECT_TRUE(parser.GetYCommand(y));
-  EXPECT_DOUBLE_EQ(y, 7.0);
-}
-
-TEST(KccParseNc, MinusAfterZeroBeforeSignAppliedFails) {
-  KCC_ParseNc parser;
-  EXPECT_FALSE(parser.DecodeISOLine("X-0-5"));
-}
-
-TEST(KccParseNc, SecondPointInAWordFails) {
-  KCC_ParseNc parser;
-  EXPECT_FALSE(parser.DecodeISOLine("X1.2.3"));
-}
-
-TEST(KccParseNc, BlankAfterTheLetterGivesNoWord) {
-  KCC_ParseNc parser;
-  ASSERT_TRUE(parser.DecodeISOLine("X 10"));
-  double x = 0.0;
-  EXPECT_FALSE(parser.GetXCommand(x));
-}
-
-TEST(KccParseNc, BareMinusMarksTheLetterPresentWithZero) {
-  KCC_ParseNc parser;
-  ASSERT_TRUE(parser.DecodeISOLine("X- Y1"));
-  EXPECT_DOUBLE_EQ(X(parser), 0.0);
-}
-
-TEST(KccParseNc, PlusSignEndsTheWord) {
-  KCC_ParseNc parser;
-  ASSERT_TRUE(parser.DecodeISOLine("X+5 Y1"));
-  double x = 0.0;
-  EXPECT_FALSE(parser.GetXCommand(x));
-}
-
-TEST(KccParseNc, UndecodedLettersEndTheCurrentWord) {
-  KCC_ParseNc parser;
-  ASSERT_TRUE(parser.DecodeISOLine("X1Z2 Y3"));
-  double y = 0.0;
-  EXPECT_DOUBLE_EQ(X(parser), 1.0);
-  EXPECT_TRUE(parser.GetYCommand(y));
-  EXPECT_DOUBLE_EQ(y, 3.0);
-}
-
-TEST(KccParseNc, LowerCaseLettersAreNotDecoded) {
-  KCC_ParseNc parser;
-  ASSERT_TRUE(parser.DecodeISOLine("x10 y20"));
-  double v = 0.0;
-  EXPECT_FALSE(parser.GetXCommand(v));
-  EXPECT_FALSE(parser.GetYCommand(v));
 }
 
 TEST(KccParseNc, VGetterTestsXAndReturnsZeroWithoutV) {
@@ -205,77 +137,26 @@ TEST(KccParseNc, VGetterIsFalseWithVButNoX) {
   EXPECT_DOUBLE_EQ(v, 9.0);
 }
 
-TEST(KccParseNc, VGetterGivesTheVValueWhenXIsPresent) {
+// The table shows G, A and S with their real value; their integer getters give the integer part.
+TEST(KccParseNc, FirstGCodeIsAlsoGivenAsAnInteger) {
   KCC_ParseNc parser;
-  ASSERT_TRUE(parser.DecodeISOLine("X1 V2.5"));
-  double v = 0.0;
-  EXPECT_TRUE(parser.GetVCommand(v));
-  EXPECT_DOUBLE_EQ(v, 2.5);
+  int g = 0;
+  ASSERT_TRUE(parser.DecodeISOLine("N10 G01 X-12.5 Y0.25 F300 M03 (CUT) M08"));
+  EXPECT_TRUE(parser.GetGprimCommand(g));
+  EXPECT_EQ(g, 1);
+  ASSERT_TRUE(parser.DecodeISOLine("G17 G90 G00"));
+  EXPECT_TRUE(parser.GetGprimCommand(g));
+  EXPECT_EQ(g, 17);
 }
 
-TEST(KccParseNc, IntegerOnlyLettersIgnoreTheFractionInTheirIntValue) {
-  KCC_ParseNc parser;
-  ASSERT_TRUE(parser.DecodeISOLine("F12.5 T3"));
-  int f = 0, t = 0;
-  EXPECT_TRUE(parser.GetFCommand(f));
-  EXPECT_EQ(f, 12);
-  EXPECT_TRUE(parser.GetTCommand(t));
-  EXPECT_EQ(t, 3);
-}
-
-TEST(KccParseNc, DoubleLettersGiveBothForms) {
+TEST(KccParseNc, RealLettersAlsoGiveTheirIntegerPart) {
   KCC_ParseNc parser;
   ASSERT_TRUE(parser.DecodeISOLine("A-1.5 B2 C3.25 S1200.5"));
   int a = 0, s = 0;
-  double ad = 0.0, c = 0.0, sd = 0.0;
   EXPECT_TRUE(parser.GetACommand(a));
   EXPECT_EQ(a, -1);
-  EXPECT_TRUE(parser.GetACommand(ad));
-  EXPECT_DOUBLE_EQ(ad, -1.5);
-  EXPECT_TRUE(parser.GetCCommand(c));
-  EXPECT_DOUBLE_EQ(c, 3.25);
   EXPECT_TRUE(parser.GetSCommand(s));
   EXPECT_EQ(s, 1200);
-  EXPECT_TRUE(parser.GetSCommand(sd));
-  EXPECT_DOUBLE_EQ(sd, 1200.5);
-}
-
-TEST(KccParseNc, ArcAndOtherWordsAreDecoded) {
-  KCC_ParseNc parser;
-  ASSERT_TRUE(parser.DecodeISOLine("G02 I1.5 J-2 K3 R4.5 D2.5 E7 L2 P8010 B9"));
-  double i = 0.0, j = 0.0, r = 0.0, d = 0.0, b = 0.0;
-  int k = 0, e = 0, l = 0, p = 0;
-  EXPECT_TRUE(parser.GetICommand(i));
-  EXPECT_DOUBLE_EQ(i, 1.5);
-  EXPECT_TRUE(parser.GetJCommand(j));
-  EXPECT_DOUBLE_EQ(j, -2.0);
-  EXPECT_TRUE(parser.GetKCommand(k));
-  EXPECT_EQ(k, 3);
-  EXPECT_TRUE(parser.GetRCommand(r));
-  EXPECT_DOUBLE_EQ(r, 4.5);
-  EXPECT_TRUE(parser.GetDCommand(d));
-  EXPECT_DOUBLE_EQ(d, 2.5);
-  EXPECT_TRUE(parser.GetECommand(e));
-  EXPECT_EQ(e, 7);
-  EXPECT_TRUE(parser.GetLCommand(l));
-  EXPECT_EQ(l, 2);
-  EXPECT_TRUE(parser.GetPCommand(p));
-  EXPECT_EQ(p, 8010);
-  EXPECT_TRUE(parser.GetBCommand(b));
-  EXPECT_DOUBLE_EQ(b, 9.0);
-}
-
-TEST(KccParseNc, LeadingBlanksAreSkipped) {
-  KCC_ParseNc parser;
-  ASSERT_TRUE(parser.DecodeISOLine("   \tX3"));
-  EXPECT_DOUBLE_EQ(X(parser), 3.0);
-}
-
-TEST(KccParseNc, HugeIntegerWrapsWithoutFailing) {
-  KCC_ParseNc parser;
-  EXPECT_TRUE(parser.DecodeISOLine("N99999999999999999999"));
-  int n = 0;
-  EXPECT_TRUE(parser.GetNCommand(n));
 }
 
 TEST(KccParseNc, CopyKeepsTheDecodedWords) {
@@ -587,38 +468,4 @@ TEST(KccParseNc, NamedParameterWithEmptyValueFails) {
   int iv = 0;
   double dv = 0.0;
   EXPECT_FALSE(parser.GetNcTextParameter("DEPTH =   ", name, iv, dv));
-}
-
-TEST(KccParseNc, IntegerPartWrapsAt32Bits) {
-  KCC_ParseNc parser;
-  ASSERT_TRUE(parser.DecodeISOLine("N4294967297"));
-  int n = 0;
-  ASSERT_TRUE(parser.GetNCommand(n));
-  EXPECT_EQ(n, 1);
-}
-
-TEST(KccParseNc, DigitsAfterAWrapToNegativeAreSubtracted) {
-  // 2147483648 wraps to -2147483648; the next digit then goes the negative way: -21474836481 wraps to -1.
-  KCC_ParseNc parser;
-  ASSERT_TRUE(parser.DecodeISOLine("N21474836481"));
-  int n = 0;
-  ASSERT_TRUE(parser.GetNCommand(n));
-  EXPECT_EQ(n, -1);
-}
-
-TEST(KccParseNc, TenthFractionDigitUsesTheWrappedDivisor) {
-  // The divisor is a 32-bit integer: after nine fraction digits 10^10 wraps to 1410065408.
-  KCC_ParseNc parser;
-  ASSERT_TRUE(parser.DecodeISOLine("X0.0000000001"));
-  double x = 0.0;
-  ASSERT_TRUE(parser.GetXCommand(x));
-  EXPECT_DOUBLE_EQ(x, 1.0 / 1410065408.0);
-}
-
-TEST(KccParseNc, FractionOfANegativeWordIsSubtracted) {
-  KCC_ParseNc parser;
-  ASSERT_TRUE(parser.DecodeISOLine("X-12.25"));
-  double x = 0.0;
-  ASSERT_TRUE(parser.GetXCommand(x));
-  EXPECT_DOUBLE_EQ(x, -12.25);
 }

@@ -8,10 +8,13 @@
 #include <string>
 
 #include "ncappkit/units/KCC_MmInch.h"
+#include "support/TestData.h"
 
 namespace {
 
+// The digits behind the point of each quantity for one unit selection.
 struct DigitsCase {
+  const char* name;
   KCC_MmInch::eMmInchSel sel;
   int axis;
   int dimension;
@@ -20,25 +23,28 @@ struct DigitsCase {
   int specificWeight;
 };
 
+const DigitsCase kDigitsCases[] = {
+    {"mm", KCC_MmInch::eMmInchMm, 3, 1, 2, 1, 1},
+    {"inch", KCC_MmInch::eMmInchInch, 4, 3, 4, 0, 3},
+    {"undefined", KCC_MmInch::eMmInchUndef, 10, 10, 10, 10, 10},
+};
+
+class KccMmInchRoundingDigits : public ::testing::TestWithParam<DigitsCase> {};
+
 }  // namespace
 
-TEST(KccMmInchRounding, DigitsFollowTheTablePerUnit) {
-  const DigitsCase cases[] = {
-      {KCC_MmInch::eMmInchMm, 3, 1, 2, 1, 1},
-      {KCC_MmInch::eMmInchInch, 4, 3, 4, 0, 3},
-      {KCC_MmInch::eMmInchUndef, 10, 10, 10, 10, 10},
-  };
-  for (const DigitsCase& c : cases) {
-    SCOPED_TRACE(static_cast<int>(c.sel));
-    const KCC_MmInch unit(c.sel);
-    const KCC_MmInch_Rounding round(unit);
-    EXPECT_EQ(round.DigitsBehindAxis(), c.axis);
-    EXPECT_EQ(round.DigitsBehindDimension(), c.dimension);
-    EXPECT_EQ(round.DigitsBehindThickness(), c.thickness);
-    EXPECT_EQ(round.DigitsBehindWeight(), c.weight);
-    EXPECT_EQ(round.DigitsBehindSpecificWeight(), c.specificWeight);
-  }
+TEST_P(KccMmInchRoundingDigits, DigitsFollowTheTableForTheUnit) {
+  const DigitsCase& c = GetParam();
+  const KCC_MmInch unit(c.sel);
+  const KCC_MmInch_Rounding round(unit);
+  EXPECT_EQ(round.DigitsBehindAxis(), c.axis);
+  EXPECT_EQ(round.DigitsBehindDimension(), c.dimension);
+  EXPECT_EQ(round.DigitsBehindThickness(), c.thickness);
+  EXPECT_EQ(round.DigitsBehindWeight(), c.weight);
+  EXPECT_EQ(round.DigitsBehindSpecificWeight(), c.specificWeight);
 }
+
+INSTANTIATE_TEST_SUITE_P(Units, KccMmInchRoundingDigits, ::testing::ValuesIn(kDigitsCases), RowName());
 
 TEST(KccMmInchRounding, AxisRoundsHalfAwayFromZeroForBothSigns) {
   const KCC_MmInch mm(KCC_MmInch::eMmInchMm);

@@ -32,8 +32,10 @@ constexpr int kLineBudget = KCC_NcFile::kMaxLines + 1;
 constexpr std::size_t kMaxLineLength = static_cast<std::size_t>(KCC_NcFile::kMaxLineLength);
 
 using ncappkit_detail::EndCodeScan;
+using ncappkit_detail::FindLineFeed;
 using ncappkit_detail::IsBlank;
 using ncappkit_detail::IsDigit;
+using ncappkit_detail::kLineFeedScanPadding;
 using ncappkit_detail::ScanEndCode;
 
 // Length of the text as a C string would see it (up to the first NUL).
@@ -78,7 +80,8 @@ bool ParseNumberLine(const char* p, std::size_t n, int& number, std::size_t& ref
 
 // First-block test on a C-string text of length n: -1 none, else the structure it marks. M98 and P8010 are
 // looked for outside round brackets at positions that leave room for five characters (i + 5 <= n).
-int FirstBlockKind(const char* p, std::size_t n) {
+// `mayHoldM` false says the text holds no 'M', so no M98 either.
+int FirstBlockKind(const char* p, std::size_t n, bool mayHoldM = true) {
   if (n < 8)
     return -1;
   const std::size_t limit = n - 4;
@@ -86,7 +89,7 @@ int FirstBlockKind(const char* p, std::size_t n) {
     return ncappkit_detail::ForEachOutsideComments(
         p, n, limit, code[0], [&](std::size_t k) { return std::memcmp(p + k, code, length) == 0; });
   };
-  if (holds("M98", 3) && holds("P8010", 5))
+  if (mayHoldM && holds("M98", 3) && holds("P8010", 5))
     return kFanucStructure;
   if (n < 14)
     return -1;
@@ -125,30 +128,36 @@ bool EndCommand(const char* p, std::size_t n, bool& isM30, bool& isM99, bool& is
 class BufferedLineReader {
  public:
   BufferedLineReader(std::FILE* file, bool lineLimit)
-      : m_file(file), m_lineLimit(lineLimit), m_buffer(kBlockSize) {}
+      : m_file(file), m_lineLimit(lineLimit), m_buffer(kBlockSize + kLineFeedScanPadding) {}
 
-  // The next line in [p, p + n); false at the end of the file.
+  // The next line in [p, p + n); false at the end of the file. `mayHoldM` tells whether the line may hold an
+  // 'M' (false: it certainly holds none).
   template <class BeforeRefill>
-  bool Next(const char*& p, std::size_t& n, BeforeRefill&& beforeRefill) {
+  bool Next(const char*& p, std::size_t& n, bool& mayHoldM, BeforeRefill&& beforeRefill) {
     if (m_failed) {
       p = m_buffer.data();
       n = 0;
+      mayHoldM = false;
       return true;
     }
     ++m_lineNumber;
     for (;;) {
       const char* begin = m_buffer.data() + m_pos;
       const std::size_t available = m_end - m_pos;
-      const void* lf = std::memchr(begin + m_scanned, '\n', available - m_scanned);
-      if (lf != nullptr) {
-        std::size_t length = static_cast<std::size_t>(static_cast<const char*>(lf) - begin);
+      const std::size_t lf = FindLineFeed(begin, m_scanned, available, m_sawM);
+      if (lf < available) {
+        std::size_t length = lf;
         m_pos += length + 1;
         m_scanned = 0;
         if (length > 0 && begin[length - 1] == '\r')
           --length;
+        mayHoldM = m_sawM;
+        m_sawM = false;
         return Hand(begin, length, p, n);
       }
       m_scanned = available;
+      mayHoldM = true;  // the rest of the file, or a line cut short: not worth a closer look
+      m_sawM = false;
       if (m_atEof) {
         if (available == 0)
           return false;
@@ -200,9 +209,11 @@ class BufferedLineReader {
       std::memmove(m_buffer.data(), m_buffer.data() + m_pos, keep);
     m_pos = 0;
     m_end = keep;
-    if (m_end == m_buffer.size())
+    // The text may fill all but the padding that FindLineFeed reads past its end.
+    if (m_end + kLineFeedScanPadding == m_buffer.size())
       m_buffer.resize(m_buffer.size() * 2);
-    const std::size_t got = std::fread(m_buffer.data() + m_end, 1, m_buffer.size() - m_end, m_file);
+    const std::size_t room = m_buffer.size() - kLineFeedScanPadding - m_end;
+    const std::size_t got = std::fread(m_buffer.data() + m_end, 1, room, m_file);
     m_end += got;
     if (got == 0)
       m_atEof = true;  // end of file or read error: either way nothing more comes
@@ -215,6 +226,7 @@ class BufferedLineReader {
   std::size_t m_pos = 0;
   std::size_t m_end = 0;
   std::size_t m_scanned = 0;  // bytes after m_pos already known to hold no LF
+  bool m_sawM = false;        // those bytes hold an 'M'
   std::size_t m_nextNul = 0;  // offset of the first NUL at or after the last line handed out; m_end if none
   int m_lineNumber = 0;
   bool m_atEof = false;
@@ -246,7 +258,9 @@ class KCC_NcFile::Loader {
   // Process one line; false when the line budget ran out (the line was not processed and reading must stop).
   // The line's text must stay valid until Flush (file lines: until the reader refills its buffer).
   // `mayHoldNul`: the text may hold a NUL, at which the scans stop (the stored line keeps all of it).
-  bool Line(const char* p, std::size_t n, bool mayHoldNul) {
+  // `mayHoldM`: the text may hold an 'M'; a line without one holds no M30, M99 or M98, so its program-end and
+  // Fanuc first-block scans are skipped.
+  bool Line(const char* p, std::size_t n, bool mayHoldNul, bool mayHoldM) {
     if (--m_budget < 1) {
       m_budgetRanOut = true;
       return false;
@@ -287,13 +301,15 @@ class KCC_NcFile::Loader {
 
     const std::size_t cLength = mayHoldNul ? CLength(p, n) : n;
     if (m_checkFirstBlock && !m_firstBlockFound) {
-      const int kind = FirstBlockKind(p, cLength);
+      const int kind = FirstBlockKind(p, cLength, mayHoldM);
       if (kind >= 0) {
         m_file.m_structure = kind;
         m_firstBlockFound = true;
       }
     }
 
+    if (!mayHoldM && (cLength < 3 || std::memcmp(p, "RET", 3) != 0))
+      return true;
     const EndCodeScan scan = ScanEndCode(p, cLength, kFileEndCodes);
     if (scan.code == ncappkit_detail::kEndNone)
       return true;
@@ -426,7 +442,7 @@ KCC_NcFileProgram* KCC_NcFile::LoadFromStringList(const KCStringList& text, bool
   m_tooLongLine = 0;
   Loader loader(*this, checkFirstBlock, keepUnfinished);
   for (const KCString& line : text) {
-    if (!loader.Line(line.str().data(), line.size(), true))
+    if (!loader.Line(line.str().data(), line.size(), true, true))
       break;
   }
   return loader.Finish();
@@ -462,8 +478,9 @@ KCC_NcFileProgram* KCC_NcFile::LoadFile(const KCString& fileName, bool checkFirs
   BufferedLineReader reader(file.get(), lineLimit);
   const char* p = nullptr;
   std::size_t n = 0;
-  while (reader.Next(p, n, [&loader] { loader.Flush(); })) {
-    if (!loader.Line(p, n, false))
+  bool mayHoldM = true;
+  while (reader.Next(p, n, mayHoldM, [&loader] { loader.Flush(); })) {
+    if (!loader.Line(p, n, false, mayHoldM))
       break;
   }
   file.reset();

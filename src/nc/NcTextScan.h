@@ -15,7 +15,46 @@
 
 #include "foundation/KCCharClass.h"
 
+#if defined(__SSE2__) && defined(__GNUC__)
+#include <emmintrin.h>
+#define NCAPPKIT_SCAN_SSE2 1
+#endif
+
 namespace ncappkit_detail {
+
+/// Bytes that FindLineFeed may read past `to`: a buffer it scans must have this many readable bytes after
+/// the end of its text.
+constexpr std::size_t kLineFeedScanPadding = 16;
+
+/// Index of the first '\n' in [from, to); `to` when there is none. Sets `sawM` when an 'M' stands in the
+/// bytes scanned before that '\n' (or before `to`) and leaves it alone otherwise, so that a line scanned in
+/// several pieces collects the answer: a line without any 'M' holds no M30, M99 or M98, so the program-end
+/// and first-block scans can pass it by. Reads up to kLineFeedScanPadding bytes past `to`.
+inline std::size_t FindLineFeed(const char* p, std::size_t from, std::size_t to, bool& sawM) noexcept {
+#if defined(NCAPPKIT_SCAN_SSE2)
+  const __m128i lineFeed = _mm_set1_epi8('\n');
+  const __m128i letterM = _mm_set1_epi8('M');
+  for (std::size_t i = from; i < to; i += 16) {
+    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p + i));
+    const std::size_t left = to - i;
+    const unsigned valid = left >= 16 ? 0xFFFFu : (1u << left) - 1u;
+    const unsigned lf = static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(bytes, lineFeed))) & valid;
+    const unsigned m = static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(bytes, letterM))) & valid;
+    if (lf != 0) {
+      const unsigned k = static_cast<unsigned>(__builtin_ctz(lf));
+      sawM = sawM || (m & ((1u << k) - 1u)) != 0;
+      return i + k;
+    }
+    sawM = sawM || m != 0;
+  }
+  return to;
+#else
+  const void* lf = std::memchr(p + from, '\n', to - from);
+  const std::size_t end = lf == nullptr ? to : static_cast<std::size_t>(static_cast<const char*>(lf) - p);
+  sawM = sawM || std::memchr(p + from, 'M', end - from) != nullptr;
+  return end;
+#endif
+}
 
 /// Index of the first byte in [from, to) equal to `a` or `b`; `to` when there is none.
 inline std::size_t FindEitherChar(const char* p, std::size_t from, std::size_t to, char a, char b) noexcept {

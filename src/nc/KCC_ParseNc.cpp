@@ -104,6 +104,71 @@ bool KCC_ParseNc::IsCharNumeric(char c) const {
   return c == '-' || c == '.' || IsDigit(c);
 }
 
+namespace {
+
+// Index of the lowest set bit of a non-zero value.
+inline int LowestSetBit(std::uint32_t value) noexcept {
+#if defined(__GNUC__)
+  return __builtin_ctz(value);
+#else
+  int index = 0;
+  while ((value & 1u) == 0) {
+    value >>= 1;
+    ++index;
+  }
+  return index;
+#endif
+}
+
+// What a character is to the block decoder.
+enum DecodeKind : std::uint8_t {
+  kOtherChar,   // ends the current word (also an upper-case letter the decoder does not read)
+  kDigitChar,   // 0-9
+  kMinusChar,   // '-'
+  kPointChar,   // '.'
+  kOpenChar,    // '(' starts a comment
+  kLetterChar,  // an upper-case letter with a slot: starts a word
+};
+
+// Fraction digits at the first nine places after the point, digit / 10^(place + 1), computed once by the same
+// division the decoder does beyond them, so a looked-up value is the very double the division gives.
+constexpr int kTabledFractionPlaces = 9;
+
+struct DecodeTables {
+  std::uint8_t kind[256] = {};
+  std::int8_t slot[256] = {};
+  double fraction[kTabledFractionPlaces][10] = {};
+};
+
+constexpr DecodeTables MakeDecodeTables(const int (&letterSlot)[26]) {
+  DecodeTables t;
+  for (int c = 0; c < 256; ++c) {
+    t.kind[c] = kOtherChar;
+    t.slot[c] = static_cast<std::int8_t>(kNoSlot);
+  }
+  for (int c = '0'; c <= '9'; ++c)
+    t.kind[c] = kDigitChar;
+  t.kind[static_cast<unsigned char>('-')] = kMinusChar;
+  t.kind[static_cast<unsigned char>('.')] = kPointChar;
+  t.kind[static_cast<unsigned char>('(')] = kOpenChar;
+  for (int letter = 0; letter < 26; ++letter) {
+    if (letterSlot[letter] != kNoSlot) {
+      t.kind['A' + letter] = kLetterChar;
+      t.slot['A' + letter] = static_cast<std::int8_t>(letterSlot[letter]);
+    }
+  }
+  std::int32_t divisor = 10;
+  for (int place = 0; place < kTabledFractionPlaces; ++place) {
+    for (int digit = 0; digit < 10; ++digit)
+      t.fraction[place][digit] = static_cast<double>(digit) / static_cast<double>(divisor);
+    if (place + 1 < kTabledFractionPlaces)
+      divisor *= 10;
+  }
+  return t;
+}
+
+}  // namespace
+
 bool KCC_ParseNc::DecodeISOLine(const KCString& line) {
   // Slot selected by each upper-case letter A..Z; letters the parser does not decode map to kNoSlot.
   static constexpr int kLetterSlot[26] = {kA, kB, kC,      kD,       kE,      kF,      kGLetter, kNoSlot, kI,
@@ -113,12 +178,12 @@ bool KCC_ParseNc::DecodeISOLine(const KCString& line) {
   static constexpr bool kKeepsDouble[kSlotCount] = {true,  true, true, true,  false, false, true,  true,
                                                     true,  true, true, false, false, false, false, false,
                                                     false, true, true, false, true,  true,  true};
+  static constexpr DecodeTables kTables = MakeDecodeTables(kLetterSlot);
 
-  for (int s = 0; s < kSlotCount; ++s) {
-    if (s == kSpare)
-      continue;
-    m_slots[s] = NcAddressSlot{};
-  }
+  // The slots the last decode used go back to "not present, 0, 0.0"; the others are still in that state.
+  for (std::uint32_t used = m_usedSlots; used != 0; used &= used - 1)
+    m_slots[LowestSetBit(used)] = NcAddressSlot{};
+  m_usedSlots = 0;
 
   const std::string& text = line.str();
   const char* p = text.data();
@@ -127,80 +192,94 @@ bool KCC_ParseNc::DecodeISOLine(const KCString& line) {
     ++p;
   if (end - p < 2)
     return false;
-
-  NcAddressSlot* current = nullptr;
-  bool keepsDouble = false;
-  bool integerPart = true;
-  bool minusPending = false;
-  std::int32_t divisor = 10;
   const char* const begin = text.data();
   const std::size_t size = text.size();
 
-  for (; p != end; ++p) {
-    const char c = *p;
-    if (c == '(') {
-      // A comment ends the word before it; its text is skipped up to the ')', which is read as an ordinary
-      // character (and so decodes nothing).
-      current = nullptr;
-      p = begin + ncappkit_detail::CommentEnd(begin, static_cast<std::size_t>(p - begin) + 1, size);
-      if (p == end)
+  for (;;) {
+    // Up to the next letter that starts a word: other characters end no word here (none is open), and a
+    // comment is skipped up to its ')', which is read as an ordinary character.
+    while (p != end) {
+      const std::uint8_t kind = kTables.kind[static_cast<unsigned char>(*p)];
+      if (kind == kLetterChar)
         break;
-      continue;
-    }
-    if (c >= 'A' && c <= 'Z') {
-      int slot = kLetterSlot[c - 'A'];
-      if (slot == kGLetter)
-        slot = m_slots[kGPrim].present ? kGSec : kGPrim;
-      if (slot == kMLetter)
-        slot = m_slots[kMPrim].present ? kMSec : kMPrim;
-      if (slot != kNoSlot) {
-        current = &m_slots[slot];
-        keepsDouble = kKeepsDouble[slot];
-        integerPart = true;
-        minusPending = false;
-        divisor = 10;
-        continue;
+      if (kind == kOpenChar) {
+        p = begin + ncappkit_detail::CommentEnd(begin, static_cast<std::size_t>(p - begin) + 1, size);
+        if (p == end)
+          return true;
       }
+      ++p;
     }
-    if (current == nullptr)
-      continue;
-    if (!IsCharNumeric(c)) {
-      current = nullptr;
-      continue;
-    }
-    current->present = true;
-    if (c == '-') {
-      if (minusPending)
-        return false;
-      minusPending = true;
-      continue;
-    }
-    if (c == '.') {
-      if (!integerPart)
-        return false;
-      integerPart = false;
-    } else {
-      const int digit = c - '0';
-      if (integerPart) {
-        current->intValue = current->intValue >= 0 ? WrapMulAdd(current->intValue, 10, digit)
-                                                   : WrapMulAdd(current->intValue, 10, -digit);
-        if (keepsDouble)
-          current->doubleValue = current->intValue;
+    if (p == end)
+      return true;
+
+    // One word: the letter, then '-', '.' and digits up to any other character. A letter seen before goes on
+    // with the value it has (X10 X20 gives 1020); G and M fill their primary slot first.
+    int slot = kTables.slot[static_cast<unsigned char>(*p)];
+    if (slot == kGLetter)
+      slot = m_slots[kGPrim].present ? kGSec : kGPrim;
+    else if (slot == kMLetter)
+      slot = m_slots[kMPrim].present ? kMSec : kMPrim;
+    NcAddressSlot& word = m_slots[slot];
+    m_usedSlots |= std::uint32_t{1} << slot;
+    const bool keepsDouble = kKeepsDouble[slot];
+    bool present = word.present;
+    std::int32_t intValue = word.intValue;
+    double doubleValue = word.doubleValue;
+    bool integerPart = true;
+    bool minusPending = false;
+    std::int32_t divisor = 10;
+    int fractionPlace = 0;
+    bool ok = true;
+    for (++p; p != end; ++p) {
+      const unsigned char c = static_cast<unsigned char>(*p);
+      const std::uint8_t kind = kTables.kind[c];
+      if (kind == kDigitChar) {
+        present = true;
+        const int digit = c - '0';
+        if (integerPart) {
+          intValue = intValue >= 0 ? WrapMulAdd(intValue, 10, digit) : WrapMulAdd(intValue, 10, -digit);
+          if (keepsDouble)
+            doubleValue = intValue;
+        } else {
+          double fraction = 0.0;
+          if (fractionPlace < kTabledFractionPlaces)
+            fraction = kTables.fraction[fractionPlace++][digit];
+          else
+            fraction = static_cast<double>(digit) / static_cast<double>(divisor);
+          doubleValue = doubleValue >= 0.0 ? doubleValue + fraction : doubleValue - fraction;
+          divisor = WrapMulAdd(divisor, 10, 0);
+        }
+        // The sign waits for the first non-zero digit after the '-'.
+        if (minusPending && digit != 0) {
+          intValue = WrapNeg(intValue);
+          if (keepsDouble)
+            doubleValue = 0.0 - doubleValue;
+          minusPending = false;
+        }
+      } else if (kind == kMinusChar) {
+        present = true;
+        if (minusPending) {
+          ok = false;  // a second '-' before the sign was applied
+          break;
+        }
+        minusPending = true;
+      } else if (kind == kPointChar) {
+        present = true;
+        if (!integerPart) {
+          ok = false;  // a second point
+          break;
+        }
+        integerPart = false;
       } else {
-        const double fraction = static_cast<double>(digit) / static_cast<double>(divisor);
-        current->doubleValue =
-            current->doubleValue >= 0.0 ? current->doubleValue + fraction : current->doubleValue - fraction;
-        divisor = WrapMulAdd(divisor, 10, 0);
+        break;
       }
     }
-    if (minusPending && c != '.' && c != '0') {
-      current->intValue = WrapNeg(current->intValue);
-      if (keepsDouble)
-        current->doubleValue = 0.0 - current->doubleValue;
-      minusPending = false;
-    }
+    word.present = present;
+    word.intValue = intValue;
+    word.doubleValue = doubleValue;
+    if (!ok)
+      return false;
   }
-  return true;
 }
 
 bool KCC_ParseNc::GetInt(int slot, int& value) const {

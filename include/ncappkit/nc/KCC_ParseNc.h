@@ -178,4 +178,6 @@ class NCAPPKIT_EXPORT KCC_ParseNc {
   bool GetDouble(int slot, double& value) const;
 
   NcAddressSlot m_slots[kSlotCount];
+  // Bit s set: slot s may differ from its cleared state, so the next decode clears it (the others are clear).
+  std::uint32_t m_usedSlots = 0;
 };

@@ -13,6 +13,13 @@ using ncappkit_geometry::HorLineCircle;
 using ncappkit_geometry::SetPoint;
 using ncappkit_geometry::VerLineCircle;
 
+// Keeps a rarely taken part of a hot function out of its body.
+#if defined(__GNUC__)
+#define NCAPPKIT_NOINLINE __attribute__((noinline))
+#else
+#define NCAPPKIT_NOINLINE
+#endif
+
 namespace {
 
 // Cd2DPoint ==: coordinates differing by at most this are equal.
@@ -43,8 +50,30 @@ constexpr double kParallelAxisTolerance = 0.001;
 constexpr double kArcLineAxisTolerance = 1e-5;
 // GetIntersection arc–line: discriminants below -this miss; within this of zero they are zero.
 constexpr double kArcLineDiscriminantTolerance = 1e-6;
+// DistancePoint2Line on a segment decides between the perpendicular distance and the nearer end by the foot
+// of the perpendicular: on the segment within KCGeometry::kOnLineTolerance or 8 units in the last place of
+// the line's largest coordinate M. Computing the foot rounds it by at most 5 units in the last place of M
+// per coordinate, so a foot whose parameter t lies in [share, 1 - share] passes that test for certain, and
+// one with t below -share or above 1 + share fails it for certain, when the segment is long enough for the
+// share of its length to dwarf those errors: at least kDistanceClearMinLength2 squared and
+// kDistanceClearMinUlps units in the last place of M. Such cases skip the foot. The share carries a margin
+// for the rounding of t itself; coordinates above kDistanceClearMaxMagnitude (squares near overflow,
+// infinities) always take the exact test.
+constexpr double kDistanceClearShare = 1.001e-3;
+constexpr double kDistanceClearMinLength2 = 1e-10;  // (1e-5)^2: 1e-3 of it is ten times kOnLineTolerance
+constexpr double kDistanceClearMinUlps = 1e5;
+constexpr double kDistanceClearMaxMagnitude = 1e150;
 // GetCircleTangentPoints: the point must lie farther than r + this from the centre.
 constexpr double kTangentOutsideTolerance = 1e-4;
+
+// Distance from (px, py) to the nearer of the two ends, the start on a tie. The squares are compared and
+// one root is taken: the root is monotonic, so this is the smaller of the two roots (equal roots are the same
+// value), and a NaN square loses to the other as a NaN root would.
+inline double NearerEndDistance(double sx, double sy, double ex, double ey, double px, double py) noexcept {
+  const double toStart2 = (sx - px) * (sx - px) + (sy - py) * (sy - py);
+  const double toEnd2 = (ex - px) * (ex - px) + (ey - py) * (ey - py);
+  return std::sqrt(toEnd2 < toStart2 ? toEnd2 : toStart2);
+}
 
 double ArcPointAngleRad(double cx, double cy, double x, double y) {
   const double dx = x - cx;
@@ -460,13 +489,12 @@ void CMath2D::GetRectangle(const KCI_d2DLine& line, KC2DArea& area) {
 // the point on the line, test the foot with Point2DOnClosedLine, then the perpendicular distance or the
 // nearer end), so every result, the degenerate ones included, is the same bit for bit; it only saves the
 // line and point objects and the calls, which made up most of its time.
-double CMath2D::DistancePoint2Line(const KCI_d2DLine& line, const KCI_d2DPoint& p, bool segment) {
-  const double sx = line.GetStartX();
-  const double sy = line.GetStartY();
-  const double ex = line.GetEndX();
-  const double ey = line.GetEndY();
-  const double px = p.GetX();
-  const double py = p.GetY();
+namespace {
+
+// DistancePoint2Line's exact test of the foot, for the cases the clear ones leave. Kept out of line, so that
+// the clear cases make a short function.
+NCAPPKIT_NOINLINE double ExactPointSegmentDistance(double sx, double sy, double ex, double ey, double px,
+                                                   double py, bool segment) {
   const double dx = ex - sx;
   const double dy = ey - sy;
   const double len2 = dx * dx + dy * dy;
@@ -474,11 +502,13 @@ double CMath2D::DistancePoint2Line(const KCI_d2DLine& line, const KCI_d2DPoint& 
   // The foot only decides between the perpendicular and the nearer end, so the infinite line skips it.
   bool perpendicular = true;
   if (segment) {
+    const double along = dx * (px - sx) + dy * (py - sy);  // the foot's parameter times len2
+    const double magnitude = std::max({std::fabs(sx), std::fabs(sy), std::fabs(ex), std::fabs(ey)});
     // KCGeometry::ProjectPointOnLine: a zero-length line projects everything on its start point.
     double fx = sx;
     double fy = sy;
     if (len2 != 0.0) {
-      const double t = (dx * (px - sx) + dy * (py - sy)) / len2;
+      const double t = along / len2;
       fx = sx + t * dx;
       fy = sy + t * dy;
     }
@@ -486,7 +516,6 @@ double CMath2D::DistancePoint2Line(const KCI_d2DLine& line, const KCI_d2DPoint& 
     // tolerance that grows with the line's coordinates (8 units in the last place of the largest).
     constexpr double kTolerance = KCGeometry::kOnLineTolerance;
     constexpr double kTolerance2 = kTolerance * kTolerance;
-    const double magnitude = std::max({std::fabs(sx), std::fabs(sy), std::fabs(ex), std::fabs(ey)});
     const double lineTolerance =
         std::max(kTolerance, 8.0 * std::numeric_limits<double>::epsilon() * magnitude);
     const double fsx = fx - sx;
@@ -511,9 +540,36 @@ double CMath2D::DistancePoint2Line(const KCI_d2DLine& line, const KCI_d2DPoint& 
       return std::sqrt((px - sx) * (px - sx) + (py - sy) * (py - sy));
     return std::fabs(dx * (py - sy) - dy * (px - sx)) / len;
   }
-  const double toStart = std::sqrt((sx - px) * (sx - px) + (sy - py) * (sy - py));
-  const double toEnd = std::sqrt((ex - px) * (ex - px) + (ey - py) * (ey - py));
-  return toEnd < toStart ? toEnd : toStart;
+  return NearerEndDistance(sx, sy, ex, ey, px, py);
+}
+
+}  // namespace
+
+double CMath2D::DistancePoint2Line(const KCI_d2DLine& line, const KCI_d2DPoint& p, bool segment) {
+  const double sx = line.GetStartX();
+  const double sy = line.GetStartY();
+  const double ex = line.GetEndX();
+  const double ey = line.GetEndY();
+  const double px = p.GetX();
+  const double py = p.GetY();
+  if (segment) {
+    // Clear cases first (see the kDistanceClear... block above): a foot well inside the segment or well
+    // outside it gets the answer the exact test would give, without computing the foot.
+    const double dx = ex - sx;
+    const double dy = ey - sy;
+    const double len2 = dx * dx + dy * dy;
+    const double along = dx * (px - sx) + dy * (py - sy);  // the foot's parameter times len2
+    const double magnitude = std::max({std::fabs(sx), std::fabs(sy), std::fabs(ex), std::fabs(ey)});
+    const double minLength = kDistanceClearMinUlps * std::numeric_limits<double>::epsilon() * magnitude;
+    if (magnitude <= kDistanceClearMaxMagnitude && len2 >= kDistanceClearMinLength2 &&
+        len2 >= minLength * minLength) {
+      if (along >= kDistanceClearShare * len2 && along <= (1.0 - kDistanceClearShare) * len2)
+        return std::fabs(dx * (py - sy) - dy * (px - sx)) / std::sqrt(len2);
+      if (along <= -kDistanceClearShare * len2 || along >= (1.0 + kDistanceClearShare) * len2)
+        return NearerEndDistance(sx, sy, ex, ey, px, py);
+    }
+  }
+  return ExactPointSegmentDistance(sx, sy, ex, ey, px, py, segment);
 }
 
 void CMath2D::DistancePoint2Line(const KCI_d2DLine& line, const KCI_d2DPoint& p, double& dist, bool segment) {

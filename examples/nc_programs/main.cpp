@@ -4,7 +4,8 @@
 //   example_nc_programs [file.nc [program-number]]
 //
 // Loads the bundled Fanuc sample by default. The first block (M98 P8010) is looked for, so the JOB program that
-// calls it counts as a main program although it ends with M99.
+// calls it counts as a main program although it ends with M99. A KCC_NcFile can be returned from a function
+// or kept in a std::vector: moves hand its programs over (copies would share them; Clone duplicates them).
 #include <iostream>
 #include <string>
 #include <vector>
@@ -17,10 +18,10 @@
 
 namespace {
 
-void List(const char* title, KCC_NcFileProgramList& programs) {
+void List(const char* title, const KCC_NcFileProgramList& programs) {
   std::cout << title << ":\n";
-  for (int i = 0; i < programs.GetNumberOfPrograms(); ++i) {
-    KCC_NcFileProgram* program = programs.GetProgram(i);
+  // Range-for walks the list without its shared cursor (GetFirstProg / GetNextProg), so loops can nest.
+  for (const KCC_NcFileProgram* program : programs) {
     std::cout << "  O" << program->GetProgramNumber() << "  " << program->GetProgramRef() << "  ("
               << program->GetStringList().size() << " lines)\n";
   }
@@ -51,7 +52,7 @@ int main(int argc, char** argv) {
   }
   // Saving goes through a temporary file that replaces the target once complete, framed by '%' lines.
   const std::string target = "O" + std::to_string(wanted) + ".nc";
-  if (!KCC_NcFile::SaveProgramsToFile(target, {chosen})) {
+  if (!chosen->SaveToFile(target)) {
     std::cerr << "cannot write " << target << '\n';
     return 1;
   }

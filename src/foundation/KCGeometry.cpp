@@ -5,12 +5,6 @@
 #include <cmath>
 #include <limits>
 
-namespace {
-// Point2DOnClosedLine: units in the last place of the line's largest coordinate that a point may lie off the
-// line and still count as on it.
-constexpr double kOnLineRoundingUnits = 8.0;
-}  // namespace
-
 KCGeometry::~KCGeometry() = default;
 
 bool KCGeometry::GetDistanceLinePoint(const KC2DLine& line, const KC2DPoint& point,
@@ -89,3 +83,4 @@ constexpr int KCGeometry::kAtStart;
 constexpr int KCGeometry::kAtEnd;
 constexpr int KCGeometry::kInside;
 constexpr double KCGeometry::kOnLineTolerance;
+constexpr double KCGeometry::kOnLineRoundingUnits;

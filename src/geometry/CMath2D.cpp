@@ -51,13 +51,13 @@ constexpr double kArcLineAxisTolerance = 1e-5;
 // GetIntersection arc–line: discriminants below -this miss; within this of zero they are zero.
 constexpr double kArcLineDiscriminantTolerance = 1e-6;
 // DistancePoint2Line on a segment decides between the perpendicular distance and the nearer end by the foot
-// of the perpendicular: on the segment within KCGeometry::kOnLineTolerance or 8 units in the last place of
-// the line's largest coordinate M. Computing the foot rounds it by at most 5 units in the last place of M
-// per coordinate, so a foot whose parameter t lies in [share, 1 - share] passes that test for certain, and
-// one with t below -share or above 1 + share fails it for certain, when the segment is long enough for the
-// share of its length to dwarf those errors: at least kDistanceClearMinLength2 squared and
-// kDistanceClearMinUlps units in the last place of M. Such cases skip the foot. The share carries a margin
-// for the rounding of t itself; coordinates above kDistanceClearMaxMagnitude (squares near overflow,
+// of the perpendicular: on the segment within KCGeometry::kOnLineTolerance, or kOnLineRoundingUnits (8) units
+// in the last place of the line's largest coordinate M. Computing the foot rounds it by at most 5 units in
+// the last place of M per coordinate, so a foot whose parameter t lies in [share, 1 - share] passes that test
+// for certain, and one with t below -share or above 1 + share fails it for certain, when the segment is long
+// enough for the share of its length to dwarf those errors: at least the root of kDistanceClearMinLength2
+// and kDistanceClearMinUlps units in the last place of M. Such clear cases skip the foot. The share carries a
+// margin for the rounding of t itself; coordinates above kDistanceClearMaxMagnitude (squares near overflow,
 // infinities) always take the exact test.
 constexpr double kDistanceClearShare = 1.001e-3;
 constexpr double kDistanceClearMinLength2 = 1e-10;  // (1e-5)^2: 1e-3 of it is ten times kOnLineTolerance
@@ -513,11 +513,12 @@ NCAPPKIT_NOINLINE double ExactPointSegmentDistance(double sx, double sy, double 
       fy = sy + t * dy;
     }
     // KCGeometry::Point2DOnClosedLine(line, foot) > 0: at the start, at the end, or inside within a
-    // tolerance that grows with the line's coordinates (8 units in the last place of the largest).
+    // tolerance that grows with the line's coordinates (kOnLineRoundingUnits units in the last place of the
+    // largest).
     constexpr double kTolerance = KCGeometry::kOnLineTolerance;
     constexpr double kTolerance2 = kTolerance * kTolerance;
-    const double lineTolerance =
-        std::max(kTolerance, 8.0 * std::numeric_limits<double>::epsilon() * magnitude);
+    const double lineTolerance = std::max(
+        kTolerance, KCGeometry::kOnLineRoundingUnits * std::numeric_limits<double>::epsilon() * magnitude);
     const double fsx = fx - sx;
     const double fsy = fy - sy;
     const double fex = fx - ex;

@@ -30,6 +30,9 @@ class NCAPPKIT_EXPORT KCGeometry {
   static constexpr int kInside = 3;
   /// Distance within which a point counts as lying on a segment or at its end.
   static constexpr double kOnLineTolerance = 1e-9;
+  /// Point2DOnClosedLine: units in the last place of the line's largest coordinate that a point may lie off
+  /// the line and still count as on it (where that is more than kOnLineTolerance).
+  static constexpr double kOnLineRoundingUnits = 8.0;
 
   /// Nothing to set up: the class holds no data.
   KCGeometry() = default;

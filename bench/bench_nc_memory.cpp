@@ -3,7 +3,8 @@
 // new/delete with counting versions (bench_nc_alloc_counter.h), which would slow every allocation of a timed
 // run. It prints
 // - the peak heap (highest number of live bytes) of one KCC_NcFile::LoadFromFile of the bench_nc_load file
-//   (construction, load, destruction) and of one std::getline-into-vector<string> read of it, and their ratio;
+//   (construction, load, destruction) and of one std::getline-into-vector<string> read of it, and their
+//   ratio;
 // - the peak resident set growth of each side, each loading once in a child process of its own (Linux);
 // - the heap allocations per block of KCC_ParseNc::DecodeISOLine over the bench_nc_decode block mix.
 // It is no Google Benchmark program: each figure comes from one untimed pass.

@@ -4,8 +4,8 @@
 //   example_config [sample.ini [new-data-directory]]
 //
 // Copies the sample (millcam.ini beside this file by default) into the current directory, loads the "MillCam"
-// section of the copy, prints the settings, then moves the data directory and shows that the file now holds the
-// new value. The sample itself is never changed.
+// section of the copy, prints the settings, then moves the data directory and shows that the file now holds
+// the new value. The sample itself is never changed.
 #include <filesystem>
 #include <iostream>
 #include <string>

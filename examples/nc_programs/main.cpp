@@ -3,9 +3,10 @@
 //
 //   example_nc_programs [file.nc [program-number]]
 //
-// Loads the bundled Fanuc sample by default. The first block (M98 P8010) is looked for, so the JOB program that
-// calls it counts as a main program although it ends with M99. A KCC_NcFile can be returned from a function
-// or kept in a std::vector: moves hand its programs over (copies would share them; Clone duplicates them).
+// Loads the bundled Fanuc sample by default. The first block (M98 P8010) is looked for, so the JOB program
+// that calls it counts as a main program although it ends with M99. A KCC_NcFile can be returned from a
+// function or kept in a std::vector: moves hand its programs over (copies would share them; Clone duplicates
+// them).
 #include <iostream>
 #include <string>
 #include <vector>

@@ -4,9 +4,9 @@
 //
 //   example_typed_values [expression...]
 //
-// A KCC_MessageKeeper takes the evaluator's messages silently and keeps them; after a failure its last message
-// says why. Texts that would make the evaluator loop for ever (two items without an operator, such as "2 3")
-// are refused first with HasEndlessEvaluation.
+// A KCC_MessageKeeper takes the evaluator's messages silently and keeps them; after a failure its last
+// message says why. Texts that would make the evaluator loop for ever (two items without an operator, such as
+// "2 3") are refused first with HasEndlessEvaluation.
 #include <iostream>
 #include <string>
 #include <vector>

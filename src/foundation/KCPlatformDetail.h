@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Internal part of the platform layer: the operating-system calls that library sources need beyond the public
-// KCPlatform.h. Each has its Windows call and a portable substitute elsewhere, both in KCPlatform.cpp, so that
-// no other source needs a platform branch of its own.
+// KCPlatform.h. Each has its Windows call and a portable substitute elsewhere, both in KCPlatform.cpp, so
+// that no other source needs a platform branch of its own.
 #pragma once
 
 #include <array>

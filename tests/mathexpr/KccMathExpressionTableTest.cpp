@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The expressions of tests/data/mathexpr/expressions.txt with their results, one test per expression, run once
-// in the process's locale and once in a German one (decimal comma).
+// The expressions of tests/data/mathexpr/expressions.txt with their results, one test per expression, run
+// once in the process's locale and once in a German one (decimal comma).
 #include <gtest/gtest.h>
 
 #include <clocale>

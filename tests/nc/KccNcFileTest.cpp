@@ -2,7 +2,8 @@
 // Splitting NC text into main programs and sub-programs, loading files and saving them. The cases where one
 // text splits into programs, or fails to, are the case folders of tests/data/nc/split_cases and
 // tests/data/nc/bad (NcSplitCasesTest.cpp); the tests here are of other shapes: the loader's line tests,
-// string lists a file cannot hold, loads that follow earlier loads, the line budget, list operations and saving.
+// string lists a file cannot hold, loads that follow earlier loads, the line budget, list operations and
+// saving.
 #include <gtest/gtest.h>
 
 #include <filesystem>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Data-driven loading cases, one test per case folder: tests/data/nc/split_cases/<case>/ (NcSplitCases) holds
-// an NC file that loads and the programs it splits into, tests/data/nc/bad/<case>/ (NcBadCases) one that gives a
-// load error, the error and what stays in the lists. Each folder has input.nc, an optional options file and
-// expected.txt; tests/data/nc/README.md describes them.
+// an NC file that loads and the programs it splits into, tests/data/nc/bad/<case>/ (NcBadCases) one that
+// gives a load error, the error and what stays in the lists. Each folder has input.nc, an optional options
+// file and expected.txt; tests/data/nc/README.md describes them.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -23,7 +23,8 @@ struct LoadOptions {
   bool fileOnly = false;
 };
 
-// The words of the case's options file (none when it has no such file); false with `error` on an unknown word.
+// The words of the case's options file (none when it has no such file); false with `error` on an unknown
+// word.
 bool ReadOptions(const fs::path& dir, LoadOptions& options, std::string& error) {
   const fs::path path = dir / "options";
   for (const TableLine& line : TableLines(ReadFileBytes(path))) {

@@ -45,7 +45,8 @@ class NckitTest : public ::testing::Test {
 template <typename Row>
 class NckitParamTest : public NckitTest, public ::testing::WithParamInterface<Row> {};
 
-/// Test names from the rows' `name` member: INSTANTIATE_TEST_SUITE_P(Rows, Suite, Values(...), NckitRowName());
+/// Test names from the rows' `name` member: INSTANTIATE_TEST_SUITE_P(Rows, Suite, Values(...),
+/// NckitRowName());
 struct NckitRowName {
   template <typename Row>
   std::string operator()(const ::testing::TestParamInfo<Row>& row) const {

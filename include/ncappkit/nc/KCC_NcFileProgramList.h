@@ -14,8 +14,8 @@
 // - Moves transfer. A moved-to list takes the programs over; the moved-from list is empty and usable. So a
 //   list can be returned from a function or kept in a std::vector safely.
 // - Clone duplicates. Clone gives an independent list with copies of the programs.
-// The list deletes its programs in ClearWithContents, RemoveProgramFromList, a move assignment onto it and its
-// destructor. Range-for (begin/end) walks the entries without touching the cursor, so loops can nest.
+// The list deletes its programs in ClearWithContents, RemoveProgramFromList, a move assignment onto it and
+// its destructor. Range-for (begin/end) walks the entries without touching the cursor, so loops can nest.
 // See docs/behaviours.md#nc-programs-and-program-lists.
 #pragma once
 

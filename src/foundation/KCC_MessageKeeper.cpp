@@ -55,3 +55,6 @@ void KCC_MessageKeeper::Keep(const KCString& message) {
     m_messages.pop_front();
   m_messages.push_back(message);
 }
+
+// Out-of-line definition for clients that bind it to a reference through a DLL import (MinGW).
+constexpr std::size_t KCC_MessageKeeper::kMaxKept;

@@ -723,3 +723,7 @@ bool KCC_NcFile::Check_M30_M99_RET_Command(const char* line, bool& isM30, bool& 
     return false;
   return EndCommand(line, std::strlen(line), isM30, isM99, isRET);
 }
+
+// Out-of-line definitions for clients that bind them to a reference through a DLL import (MinGW).
+constexpr int KCC_NcFile::kMaxLineLength;
+constexpr int KCC_NcFile::kMaxLines;

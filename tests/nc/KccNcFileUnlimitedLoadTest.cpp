@@ -48,7 +48,7 @@ TEST(KccNcFileUnlimitedLoad, ReadsALineLongerThanTheReadBuffer) {
 
 TEST(KccNcFileUnlimitedLoad, LineStillEndsAtItsFirstNul) {
   TempDir dir;
-  const std::string path = dir.WriteFile("nul.nc", std::string("O1\0hidden\nM30\n", 14));
+  const std::string path = dir.WriteFile("nul-byte.nc", std::string("O1\0hidden\nM30\n", 14));
   KCC_NcFile file;
 
   ASSERT_NE(file.LoadFromFileWithoutLineLimit(path, false, false), nullptr);

@@ -6,10 +6,9 @@
 // start-up and removed at exit. One load is one sample: construction, load and destruction of the
 // KCC_NcFile (of the vector for the floor) are all inside it, and so is merging the blocks it freed into the
 // allocator's free lists (MergeFreedMemory), so that each sample pays for its own garbage and for no other.
-// Both benchmarks run 15 repetitions of one load each, interleaved in random order so that a busy phase of the
-// machine hits both sides alike. After
-// the run the minimum and the median of the samples and the ratios LoadFromFile / floor are printed, for
-// wall and thread CPU time.
+// Both benchmarks run 15 repetitions of one load each, interleaved in random order so that a busy phase of
+// the machine hits both sides alike. After the run the minimum and the median of the samples and the ratios
+// LoadFromFile / floor are printed, for wall and thread CPU time.
 //
 // This binary uses the ordinary allocator: the peak heap of both sides is measured by bench_nc_memory, a
 // separate program whose counting allocator would otherwise slow every allocation timed here.

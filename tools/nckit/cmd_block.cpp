@@ -9,95 +9,13 @@
 #include <string>
 #include <vector>
 
+#include "NckitBlockWords.h"
 #include "NckitCommand.h"
 #include "NckitCommandLine.h"
 #include "NckitJson.h"
 #include "ncappkit/nc/KCC_ParseNc.h"
 
 namespace {
-
-struct Word {
-  std::string address;
-  std::string value;
-};
-
-std::string Real(double v) {
-  KCString text(v, -1, false);
-  text.CleanDoubleString();
-  return text.str();
-}
-
-// True when the block holds a V word as the parser reads one: a V outside a comment followed directly by a
-// numeric character. The parser's V getter answers for the X word, so this tells whether V itself is there.
-bool HasVWord(const std::string& block) {
-  bool comment = false;
-  for (std::size_t i = 0; i < block.size(); ++i) {
-    const char c = block[i];
-    if (comment) {
-      comment = c != ')';
-    } else if (c == '(') {
-      comment = true;
-    } else if (c == 'V' && i + 1 < block.size()) {
-      const char next = block[i + 1];
-      if (next == '-' || next == '.' || (next >= '0' && next <= '9'))
-        return true;
-    }
-  }
-  return false;
-}
-
-// Every getter's answer for the last decoded block, in the parser's address order; V as GetVCommand gives
-// it, which is whenever the block had an X word.
-std::vector<Word> GetterWords(const KCC_ParseNc& p) {
-  std::vector<Word> words;
-  int i = 0;
-  double d = 0.0;
-  auto real = [&](const char* address, bool present) {
-    if (present)
-      words.push_back({address, Real(d)});
-  };
-  auto integer = [&](const char* address, bool present) {
-    if (present)
-      words.push_back({address, std::to_string(i)});
-  };
-  real("A", p.GetACommand(d));
-  real("B", p.GetBCommand(d));
-  real("C", p.GetCCommand(d));
-  real("D", p.GetDCommand(d));
-  integer("E", p.GetECommand(i));
-  integer("F", p.GetFCommand(i));
-  real("G", p.GetGprimCommand(d));
-  real("G(2nd)", p.GetGsecundCommand(d));
-  real("I", p.GetICommand(d));
-  real("J", p.GetJCommand(d));
-  integer("K", p.GetKCommand(i));
-  integer("L", p.GetLCommand(i));
-  integer("M", p.GetMprimCommand(i));
-  integer("M(2nd)", p.GetMsecCommand(i));
-  integer("N", p.GetNCommand(i));
-  integer("P", p.GetPCommand(i));
-  real("S", p.GetSCommand(d));
-  real("R", p.GetRCommand(d));
-  integer("T", p.GetTCommand(i));
-  real("V", p.GetVCommand(d));
-  real("X", p.GetXCommand(d));
-  real("Y", p.GetYCommand(d));
-  return words;
-}
-
-// The words of the block as shown: the getters' answers, V only when the block holds a V word.
-std::vector<Word> DecodedWords(const KCC_ParseNc& p, const std::string& block) {
-  std::vector<Word> words = GetterWords(p);
-  if (!HasVWord(block)) {
-    words.erase(std::remove_if(words.begin(), words.end(), [](const Word& w) { return w.address == "V"; }),
-                words.end());
-  }
-  return words;
-}
-
-bool operator==(const Word& a, const Word& b) {
-  return a.address == b.address && a.value == b.value;
-}
 
 // True when the decoder reads `letter` as an address: the getters answer differently for "<letter>1 X0"
 // than for "X0". The X word is there because GetVCommand answers only for a block with X.
@@ -106,7 +24,7 @@ bool DecoderReadsLetter(char letter) {
   KCC_ParseNc without;
   with.DecodeISOLine(std::string(1, letter) + "1 X0");
   without.DecodeISOLine("X0");
-  return GetterWords(with) != GetterWords(without);
+  return NckitGetterWords(with) != NckitGetterWords(without);
 }
 
 bool IsLetter(char c) {
@@ -212,7 +130,7 @@ int RunBlock(const NckitArgs& args, std::ostream& out, std::ostream& err) {
 
   KCC_ParseNc parser;
   const bool complete = parser.DecodeISOLine(block);
-  const std::vector<Word> words = DecodedWords(parser, block);
+  const std::vector<NckitWord> words = NckitBlockWords(parser, block);
   if (json) {
     out << "{\"block\": " << JsonString(block) << ", \"complete\": " << (complete ? "true" : "false")
         << ", \"words\": [";
@@ -222,7 +140,7 @@ int RunBlock(const NckitArgs& args, std::ostream& out, std::ostream& err) {
     }
     out << "]}\n";
   } else {
-    for (const Word& w : words)
+    for (const NckitWord& w : words)
       out << w.address << ' ' << w.value << '\n';
   }
   WarnAboutMisreadText(block, err);

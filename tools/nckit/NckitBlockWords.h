@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The address words of the last block a KCC_ParseNc decoded, as `nckit block` shows them: one word per
-// address the getters answer for, in the parser's address order A B C D E F G G(2nd) I J K L M M(2nd) N P S R T
-// V X Y. Letters with a real value show it with its fraction (shortest exact text, no trailing zeros), the
-// others their integer. V is shown only when the block holds a V word itself, since the parser's V getter
+// address the getters answer for, in the parser's address order A B C D E F G G(2nd) I J K L M M(2nd) N P S
+// R T V X Y. Letters with a real value show it with its fraction (shortest exact text, no trailing zeros),
+// the others their integer. V is shown only when the block holds a V word itself, since the parser's V getter
 // answers for X. The tests build their expected words with the same code.
 //
 //   KCC_ParseNc parser;

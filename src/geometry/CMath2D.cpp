@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <typeinfo>
 
 #include "geometry/CircleKernels.h"
 #include "ncappkit/foundation/KCGeometry.h"
@@ -547,12 +548,31 @@ NCAPPKIT_NOINLINE double ExactPointSegmentDistance(double sx, double sy, double 
 }  // namespace
 
 double CMath2D::DistancePoint2Line(const KCI_d2DLine& line, const KCI_d2DPoint& p, bool segment) {
-  const double sx = line.GetStartX();
-  const double sy = line.GetStartY();
-  const double ex = line.GetEndX();
-  const double ey = line.GetEndY();
-  const double px = p.GetX();
-  const double py = p.GetY();
+  double sx = 0.0;
+  double sy = 0.0;
+  double ex = 0.0;
+  double ey = 0.0;
+  double px = 0.0;
+  double py = 0.0;
+  // The library's own value types (the common case) are read without six virtual calls: the identity of
+  // their type information is enough to know them. Anything else goes through the interfaces.
+  if (&typeid(line) == &typeid(Cd2DLine) && &typeid(p) == &typeid(Cd2DPoint)) {
+    const auto& l = static_cast<const Cd2DLine&>(line);
+    const auto& q = static_cast<const Cd2DPoint&>(p);
+    sx = l.Cd2DLine::GetStartX();
+    sy = l.Cd2DLine::GetStartY();
+    ex = l.Cd2DLine::GetEndX();
+    ey = l.Cd2DLine::GetEndY();
+    px = q.Cd2DPoint::GetX();
+    py = q.Cd2DPoint::GetY();
+  } else {
+    sx = line.GetStartX();
+    sy = line.GetStartY();
+    ex = line.GetEndX();
+    ey = line.GetEndY();
+    px = p.GetX();
+    py = p.GetY();
+  }
   if (segment) {
     // Clear cases first (see the kDistanceClear... block above): a foot well inside the segment or well
     // outside it gets the answer the exact test would give, without computing the foot.

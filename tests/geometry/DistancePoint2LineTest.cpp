@@ -12,6 +12,7 @@
 #include <random>
 #include <string>
 
+#include "GeometryClients.h"
 #include "ncappkit/foundation/KC2DElement.h"
 #include "ncappkit/foundation/KCGeometry.h"
 #include "ncappkit/geometry/CMath2D.h"
@@ -195,6 +196,31 @@ TEST(DistancePoint2LineClearCases, FarPointsAndHugeCoordinatesGiveTheExactValue)
       ExpectIdentical(line, Point(coord(engine) * far, coord(engine)));
     }
   }
+}
+
+TEST(DistancePoint2LineClients, ClientGeometryGivesTheSameDistanceAsTheLibraryTypes) {
+  std::mt19937 engine(19);
+  std::uniform_real_distribution<double> coord(-100.0, 100.0);
+  for (int run = 0; run < 5000; ++run) {
+    const double sx = coord(engine), sy = coord(engine), ex = coord(engine), ey = coord(engine);
+    const double px = coord(engine), py = coord(engine);
+    const ClientLine clientLine(sx, sy, ex, ey);
+    const ClientPoint clientPoint(px, py);
+    const bool segment = run % 2 == 0;
+
+    const double viaInterfaces = CMath2D::DistancePoint2Line(clientLine, clientPoint, segment);
+    const double viaLibraryTypes = CMath2D::DistancePoint2Line(Line(sx, sy, ex, ey), Point(px, py), segment);
+
+    ASSERT_EQ(std::memcmp(&viaInterfaces, &viaLibraryTypes, sizeof viaInterfaces), 0)
+        << Describe(Line(sx, sy, ex, ey), Point(px, py));
+  }
+}
+
+TEST(DistancePoint2LineClients, MixedClientAndLibraryTypesWork) {
+  const ClientLine line(0, 0, 10, 0);
+
+  EXPECT_EQ(CMath2D::DistancePoint2Line(line, Point(5, 3), true), 3.0);
+  EXPECT_EQ(CMath2D::DistancePoint2Line(Line(0, 0, 10, 0), ClientPoint(-3, 4), true), 5.0);
 }
 
 }  // namespace

@@ -204,8 +204,8 @@ TEST(DistancePoint2LineClients, ClientGeometryGivesTheSameDistanceAsTheLibraryTy
   for (int run = 0; run < 5000; ++run) {
     const double sx = coord(engine), sy = coord(engine), ex = coord(engine), ey = coord(engine);
     const double px = coord(engine), py = coord(engine);
-    const ClientLine clientLine(sx, sy, ex, ey);
-    const ClientPoint clientPoint(px, py);
+    const geometry_test::ClientLine clientLine(sx, sy, ex, ey);
+    const geometry_test::ClientPoint clientPoint(px, py);
     const bool segment = run % 2 == 0;
 
     const double viaInterfaces = CMath2D::DistancePoint2Line(clientLine, clientPoint, segment);
@@ -217,10 +217,10 @@ TEST(DistancePoint2LineClients, ClientGeometryGivesTheSameDistanceAsTheLibraryTy
 }
 
 TEST(DistancePoint2LineClients, MixedClientAndLibraryTypesWork) {
-  const ClientLine line(0, 0, 10, 0);
+  const geometry_test::ClientLine line(0, 0, 10, 0);
 
   EXPECT_EQ(CMath2D::DistancePoint2Line(line, Point(5, 3), true), 3.0);
-  EXPECT_EQ(CMath2D::DistancePoint2Line(Line(0, 0, 10, 0), ClientPoint(-3, 4), true), 5.0);
+  EXPECT_EQ(CMath2D::DistancePoint2Line(Line(0, 0, 10, 0), geometry_test::ClientPoint(-3, 4), true), 5.0);
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // KCC_NcFileProgramList: an owning list of NC programs, with lookup by number, a cursor, removal and download
-// selection.
+// selection. Copies share their programs, moves transfer them, Clone duplicates them (see "Ownership" below).
 //
 //   KCC_NcFileProgramList list;
 //   KCC_NcFileProgramCreator creator(list);

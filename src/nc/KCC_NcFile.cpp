@@ -155,18 +155,23 @@ class BufferedLineReader {
         m_sawM = false;
         return Hand(begin, length, p, n);
       }
+      // No line end yet. The bytes scanned so far stay scanned, and m_sawM keeps what they held, across
+      // a refill; a line handed out without a line end (the rest of the file, or a line cut short) is
+      // taken as holding an 'M': not worth a closer look.
       m_scanned = available;
-      mayHoldM = true;  // the rest of the file, or a line cut short: not worth a closer look
-      m_sawM = false;
       if (m_atEof) {
         if (available == 0)
           return false;
         m_pos = m_end;
         m_scanned = 0;
+        mayHoldM = true;
+        m_sawM = false;
         return Hand(begin, available, p, n);
       }
       if (m_lineLimit && available > kMaxLineLength + 1) {
         // No line end within reach: this line is too long whatever follows.
+        mayHoldM = true;
+        m_sawM = false;
         return Hand(begin, available, p, n);
       }
       beforeRefill();

@@ -143,3 +143,23 @@ TEST(KccNcFileErrorName, NamesEveryLoadError) {
 TEST(KccNcFileErrorName, UnknownCodeSaysItsNumber) {
   EXPECT_EQ(KCC_NcFile::GetErrorName(9).str(), "unknown error 9");
 }
+
+// The reader fills a buffer of 1 MiB at a time; a line that crosses its end is read in two pieces.
+TEST(KccNcFileReadBuffer, ProgramEndInALineAcrossTheBufferEndIsFound) {
+  TempDir dir;
+  constexpr std::size_t kBufferEnd = std::size_t{1} << 20;
+  std::string text = "O1\n";
+  const std::size_t endLineStart = kBufferEnd - 10;  // "M30" before the buffer end, the line end after it
+  while (text.size() + 100 < endLineStart)
+    text += "(" + std::string(97, 'X') + ")\n";
+  text += "(" + std::string(endLineStart - text.size() - 3, 'X') + ")\n";
+  text += "M30 (END OF PART ONE)\nO2\nG0 X1\nM30\n";
+  const std::string path = dir.WriteFile("across.nc", text);
+  KCC_NcFile file;
+
+  ASSERT_NE(file.LoadFromFile(path, false, false), nullptr);
+
+  ASSERT_EQ(file.GetNumberOfMainPrograms(), 2);
+  EXPECT_EQ(file.GetMainProgList().GetProgram(0)->GetProgramNumber(), 1);
+  EXPECT_EQ(file.GetMainProgList().GetProgram(1)->GetProgramNumber(), 2);
+}

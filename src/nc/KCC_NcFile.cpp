@@ -327,13 +327,16 @@ class KCC_NcFile::Loader {
     return true;
   }
 
-  // Copies the lines gathered since the last flush into the current program, whose list grows once, by
-  // exactly their number (so a program's list mostly holds no spare room).
+  // Copies the lines gathered since the last flush into the current program. The first flush of a program
+  // reserves exactly their number (most programs end before a refill, so their list holds no spare room);
+  // a program that spans several flushes grows its list geometrically, not by an exact reservation each
+  // time, which would copy the whole list again at every refill.
   void Flush() {
     if (m_lineCount == 0)
       return;
     KCStringList& list = m_current->GetStringList();
-    list.reserve(list.size() + m_lineCount);
+    if (list.empty())
+      list.reserve(m_lineCount);
     for (std::size_t i = 0; i < m_lineCount; ++i)
       list.emplace_back(std::string(m_lines[i].p, m_lines[i].n));
     m_lineCount = 0;

@@ -108,13 +108,7 @@ constexpr unsigned kFileEndCodes =
 // did they describe the last position compared (all false, but RET found there, after the line start),
 // and stay as they were when no position was compared.
 bool EndCommand(const char* p, std::size_t n, bool& isM30, bool& isM99, bool& isRET) {
-  const EndCodeScan scan = ScanEndCode(p, n, kFileEndCodes);
-  if (scan.compared) {
-    isM30 = scan.code == ncappkit_detail::kEndM30;
-    isM99 = scan.code == ncappkit_detail::kEndM99;
-    isRET = scan.code == ncappkit_detail::kEndRET || scan.retAtLast;
-  }
-  return scan.code != ncappkit_detail::kEndNone;
+  return ncappkit_detail::ReportEndCode(ScanEndCode(p, n, kFileEndCodes), isM30, isM99, &isRET);
 }
 
 // Reads a file through a large block buffer and hands out its lines as a reader with a 128-character line

@@ -85,12 +85,8 @@ bool ScanParameterValue(const char* text, std::size_t length, int& intValue, dou
 bool ScanLineEndCodes(const char* line, unsigned accepted, bool& foundM30, bool& foundM99) {
   if (line == nullptr)
     return false;
-  const ncappkit_detail::EndCodeScan scan = ncappkit_detail::ScanEndCode(line, std::strlen(line), accepted);
-  if (scan.compared) {
-    foundM30 = scan.code == ncappkit_detail::kEndM30;
-    foundM99 = scan.code == ncappkit_detail::kEndM99;
-  }
-  return scan.code != ncappkit_detail::kEndNone;
+  return ncappkit_detail::ReportEndCode(ncappkit_detail::ScanEndCode(line, std::strlen(line), accepted),
+                                        foundM30, foundM99);
 }
 
 }  // namespace

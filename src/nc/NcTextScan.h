@@ -187,4 +187,18 @@ inline EndCodeScan ScanEndCode(const char* p, std::size_t n, unsigned accepted) 
   return result;
 }
 
+/// The flags form of a scan, as the classes' line tests report it: `isM30` / `isM99` (and `isRET`, when
+/// given) tell which code ended the scan; when none did they describe the last position compared (all
+/// false, but isRET set when RET stood there after the line start), and they keep the caller's values when
+/// no position was compared. Returns whether a code ended the scan.
+inline bool ReportEndCode(const EndCodeScan& scan, bool& isM30, bool& isM99, bool* isRET = nullptr) noexcept {
+  if (scan.compared) {
+    isM30 = scan.code == kEndM30;
+    isM99 = scan.code == kEndM99;
+    if (isRET != nullptr)
+      *isRET = scan.code == kEndRET || scan.retAtLast;
+  }
+  return scan.code != kEndNone;
+}
+
 }  // namespace ncappkit_detail

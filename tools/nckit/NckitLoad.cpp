@@ -65,10 +65,7 @@ std::optional<int> LoadNcFile(const NckitCommandLine& cl, const std::string& pat
   else
     result.file->LoadFromFile(path, options.checkFirstBlock, options.keepUnfinished);
   result.errorCode = result.file->GetErrorCode();
-  // A file of more lines than the budget ends the load whatever the length of the line after the budget, so
-  // a too-long line there is not the reason (the loader still names it).
-  const int longLine = result.file->GetTooLongLineNumber();
-  result.longLine = longLine <= KCC_NcFile::kMaxLines ? longLine : 0;
+  result.longLine = result.file->GetTooLongLineNumber();
   if (const long long line = FindLoneCarriageReturn(path); line > 0) {
     err << cl.Program() << ": " << path << ": warning: line " << line
         << " has a carriage return inside it; lines ended by a carriage return alone are read as one line\n";
@@ -188,9 +185,9 @@ std::vector<NcEndWord> FindEndWords(const std::string& path) {
 
 std::vector<KCC_NcFileProgram*> AllPrograms(KCC_NcFile& file) {
   std::vector<KCC_NcFileProgram*> programs;
-  for (KCC_NcFileProgramList* list : {&file.GetMainProgList(), &file.GetSubProgList()}) {
-    for (int i = 0; i < list->GetNumberOfPrograms(); ++i) {
-      if (KCC_NcFileProgram* p = list->GetProgram(i))
+  for (const KCC_NcFileProgramList* list : {&file.GetMainProgList(), &file.GetSubProgList()}) {
+    for (KCC_NcFileProgram* p : *list) {
+      if (p != nullptr)
         programs.push_back(p);
     }
   }

@@ -99,7 +99,8 @@ class NCAPPKIT_EXPORT KCC_NcFile {
   /// code set.
   KCC_NcFileProgram* LoadFromStringList(const KCStringList& text, bool checkFirstBlock, bool keepUnfinished);
   /// 1-based number of the line that ended the last LoadFromFile because it was longer than kMaxLineLength;
-  /// 0 when no line was too long (also after the other loads, which have no such limit).
+  /// 0 when no line was too long, when the too-long line came after kMaxLines (the line budget ended the
+  /// load), and after the other loads, which have no such limit.
   int GetTooLongLineNumber() const;
 
   /// Write the main programs, then the sub-programs, framed by '%' lines, to `fileName`. False for an empty

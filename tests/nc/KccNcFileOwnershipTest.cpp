@@ -187,14 +187,14 @@ TEST(KccNcFileProgramListRange, NestedLoopsDoNotDisturbEachOther) {
   KCC_NcFileProgramList list;
   list.AddProgram(NewProgram(1, "O1"));
   list.AddProgram(NewProgram(2, "O2"));
-  int pairs = 0;
+  std::vector<int> pairs;
 
   for (const KCC_NcFileProgram* a : list) {
     for (const KCC_NcFileProgram* b : list)
-      pairs += a->GetProgramNumber() * 10 + b->GetProgramNumber() > 0 ? 1 : 0;
+      pairs.push_back(a->GetProgramNumber() * 10 + b->GetProgramNumber());
   }
 
-  EXPECT_EQ(pairs, 4);
+  EXPECT_EQ(pairs, (std::vector<int>{11, 12, 21, 22}));
 }
 
 TEST(KccNcFileProgramListRange, RangeForLeavesTheCursorAlone) {

@@ -118,7 +118,10 @@ loud=$(sed -n 's/^loud //p' <<<"$failures")
 if [[ $tests_ok -eq 0 && -n "$silent" && -z "$loud" ]]; then
   # Only silent failures: run exactly those tests once more; a test that fails again fails the lane.
   echo "windows lane: running again the tests that failed without printing anything:" $silent
-  pattern=$(sed 's/\./\\./g' <<<"$silent" | paste -sd '|' -)  # test names hold letters, digits, _ . /
+  # Names of parameterised tests carry their parameter ("  # GetParam() = 12", or a byte dump in angle
+  # brackets), so the JUnit entities are decoded and every regular-expression character is escaped.
+  pattern=$(sed -e 's/&lt;/</g; s/&gt;/>/g; s/&quot;/"/g; s/&apos;/'"'"'/g; s/&amp;/\&/g' \
+                -e 's/[][\\.^$*+?(){}|]/\\&/g' <<<"$silent" | paste -sd '|' -)
   ctest --preset windows -R "^($pattern)\$" && tests_ok=1
 fi
 

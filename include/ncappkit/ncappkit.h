@@ -54,6 +54,13 @@
 #include "ncappkit/mathexpr/CExpressionItem.h"
 #include "ncappkit/mathexpr/KCC_MathExpression.h"
 
+// objects
+#include "ncappkit/objects/KCC_ObjectData.h"
+#include "ncappkit/objects/KCC_ObjectList.h"
+#include "ncappkit/objects/KCC_ObjectPattern.h"
+#include "ncappkit/objects/KCC_ObjectPatternFactory.h"
+#include "ncappkit/objects/KCC_ObjectState.h"
+
 // config
 #include "ncappkit/config/KCC_AppName.h"
 #include "ncappkit/config/KCC_CfgApplication.h"
@@ -75,3 +82,6 @@
 #include "ncappkit/geometry/KCI_i2DArc.h"
 #include "ncappkit/geometry/KCI_i2DLine.h"
 #include "ncappkit/geometry/KCI_i2DPoint.h"
+
+// schema
+#include "ncappkit/schema/KCC_W3C_Schema.h"

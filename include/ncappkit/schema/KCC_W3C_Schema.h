@@ -29,6 +29,7 @@
 // - The object does not own its root: the document does. Copies share the root pointer, and it is valid only
 //   as long as the document keeps that root.
 // - The results of the paragraph's value writes are not checked: a section that was made is returned.
+// See docs/behaviours.md#xsd-schema-builder.
 #pragma once
 
 #include "ncappkit/export.h"

@@ -85,3 +85,9 @@
 
 // schema
 #include "ncappkit/schema/KCC_W3C_Schema.h"
+
+// draw
+#include "ncappkit/draw/KCCanvas.h"
+#include "ncappkit/draw/KCI_ViewPort.h"
+
+// gui

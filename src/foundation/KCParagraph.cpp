@@ -17,86 +17,28 @@
 //   part of a valid UTF-8 sequence is taken as the Latin-1 character of that value and written as a
 //   character reference; characters that XML 1.0 does not allow at all (most control characters) become '?'.
 // So whatever the sections hold, the result is well-formed XML.
+// The UTF-8 and name scans live in KCXmlChars.h, shared with the reader (LoadFromText, KCXmlReader.cpp),
+// which reads all of this back.
 #include "ncappkit/foundation/KCParagraph.h"
 
 #include <cstdint>
 #include <filesystem>
+#include <memory>
 #include <set>
 #include <string>
 #include <system_error>
+#include <utility>
 
 #include "foundation/KCReplaceFile.h"
+#include "foundation/KCXmlChars.h"
+#include "foundation/KCXmlReader.h"
 
 namespace {
 
-// Decodes the UTF-8 sequence at `i`. On success gives its code point and advances `i` past it; on an
-// invalid sequence (bad lead or continuation byte, overlong form, surrogate, beyond U+10FFFF) returns false
-// and leaves `i` alone.
-bool DecodeUtf8(const std::string& text, std::size_t& i, std::uint32_t& codePoint) {
-  const auto byte = [&](std::size_t k) { return static_cast<unsigned char>(text[k]); };
-  const unsigned char lead = byte(i);
-  if (lead < 0x80) {
-    codePoint = lead;
-    ++i;
-    return true;
-  }
-  std::size_t length = 0;
-  std::uint32_t value = 0;
-  std::uint32_t minimum = 0;
-  if ((lead & 0xE0) == 0xC0) {
-    length = 2;
-    value = lead & 0x1Fu;
-    minimum = 0x80;
-  } else if ((lead & 0xF0) == 0xE0) {
-    length = 3;
-    value = lead & 0x0Fu;
-    minimum = 0x800;
-  } else if ((lead & 0xF8) == 0xF0) {
-    length = 4;
-    value = lead & 0x07u;
-    minimum = 0x10000;
-  } else {
-    return false;
-  }
-  if (i + length > text.size())
-    return false;
-  for (std::size_t k = 1; k < length; ++k) {
-    const unsigned char next = byte(i + k);
-    if ((next & 0xC0) != 0x80)
-      return false;
-    value = (value << 6) | (next & 0x3Fu);
-  }
-  if (value < minimum || value > 0x10FFFF || (value >= 0xD800 && value <= 0xDFFF))
-    return false;
-  codePoint = value;
-  i += length;
-  return true;
-}
-
-// Letters beyond ASCII that both the current XML 1.0 name rules and the older ones (still applied by expat,
-// MSXML and .NET) accept anywhere in a name: the letters of Latin-1, Latin Extended-A, Greek and Cyrillic.
-bool IsPortableNonAsciiLetter(std::uint32_t c) {
-  return (c >= 0xC0 && c <= 0xD6) || (c >= 0xD8 && c <= 0xF6) || (c >= 0xF8 && c <= 0x131) ||
-         (c >= 0x134 && c <= 0x13E) || (c >= 0x141 && c <= 0x148) || (c >= 0x14A && c <= 0x17E) ||
-         c == 0x386 || (c >= 0x388 && c <= 0x38A) || c == 0x38C || (c >= 0x38E && c <= 0x3A1) ||
-         (c >= 0x3A3 && c <= 0x3CE) || (c >= 0x401 && c <= 0x40C) || (c >= 0x40E && c <= 0x44F) ||
-         (c >= 0x451 && c <= 0x45C) || (c >= 0x45E && c <= 0x481);
-}
-
-bool IsNameStartChar(std::uint32_t c) {
-  return c == ':' || (c >= 'A' && c <= 'Z') || c == '_' || (c >= 'a' && c <= 'z') ||
-         IsPortableNonAsciiLetter(c);
-}
-
-bool IsNameChar(std::uint32_t c) {
-  return IsNameStartChar(c) || c == '-' || c == '.' || (c >= '0' && c <= '9') || c == 0xB7 ||
-         (c >= 0x300 && c <= 0x345);
-}
-
-bool IsXmlChar(std::uint32_t c) {
-  return c == 0x9 || c == 0xA || c == 0xD || (c >= 0x20 && c <= 0xD7FF) || (c >= 0xE000 && c <= 0xFFFD) ||
-         (c >= 0x10000 && c <= 0x10FFFF);
-}
+using ncappkit_detail::DecodeUtf8;
+using ncappkit_detail::IsPortableNameChar;
+using ncappkit_detail::IsPortableNameStartChar;
+using ncappkit_detail::IsXmlChar;
 
 // The XML name for a section, key or documentation name (see the rules at the top of this file).
 std::string XmlName(const KCString& name) {
@@ -111,9 +53,9 @@ std::string XmlName(const KCString& name) {
     const bool valid = DecodeUtf8(text, i, c);
     if (!valid)
       ++i;
-    if (valid && result.empty() && !IsNameStartChar(c) && IsNameChar(c))
+    if (valid && result.empty() && !IsPortableNameStartChar(c) && IsPortableNameChar(c))
       result += '_';
-    if (valid && IsNameChar(c)) {
+    if (valid && IsPortableNameChar(c)) {
       result.append(text, start, i - start);
     } else {
       result += '_';
@@ -403,11 +345,14 @@ const KCParagraph::Entry* KCParagraph::FindEntry(const KCString& key) const noex
 // KCDocument
 
 KCDocument::KCDocument(const KCDocument& other)
-    : m_root(other.m_root ? std::make_unique<KCParagraph>(*other.m_root) : nullptr) {}
+    : m_root(other.m_root ? std::make_unique<KCParagraph>(*other.m_root) : nullptr),
+      m_loadError(other.m_loadError) {}
 
 KCDocument& KCDocument::operator=(const KCDocument& other) {
-  if (this != &other)
+  if (this != &other) {
     m_root = other.m_root ? std::make_unique<KCParagraph>(*other.m_root) : nullptr;
+    m_loadError = other.m_loadError;
+  }
   return *this;
 }
 
@@ -442,4 +387,26 @@ bool KCDocument::SaveToFile(const KCString& path) const {
       target = resolved.string();
   }
   return ncappkit_detail::ReplaceFileContents(target, ToXml());
+}
+
+bool KCDocument::LoadFromText(const std::string& xml) {
+  std::unique_ptr<KCParagraph> root;
+  std::string error;
+  if (!ncappkit_detail::ReadXmlDocument(xml, root, error)) {
+    m_loadError = std::move(error);
+    return false;
+  }
+  m_root = std::move(root);
+  m_loadError.clear();
+  return true;
+}
+
+bool KCDocument::LoadFromFile(const KCString& path) {
+  std::string bytes;
+  std::string error;
+  if (!ncappkit_detail::ReadWholeFile(path.str(), bytes, error)) {
+    m_loadError = std::move(error);
+    return false;
+  }
+  return LoadFromText(bytes);
 }

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "support/ChildProcess.h"
 
+#include <cstdlib>
+#include <filesystem>
+#include <system_error>
+
 #if defined(__unix__) || defined(__APPLE__)
 #include <fcntl.h>
 #include <poll.h>
@@ -247,3 +251,34 @@ ChildResult RunChild(const std::vector<std::string>& /*argv*/, double /*timeoutS
 }
 
 #endif
+
+std::string FindProgramOnPath(const std::string& name) {
+#if defined(_WIN32)
+  const char separator = ';';
+  const std::vector<std::string> suffixes = {"", ".exe"};
+#else
+  const char separator = ':';
+  const std::vector<std::string> suffixes = {""};
+#endif
+  const char* path = std::getenv("PATH");
+  if (path == nullptr)
+    return "";
+  const std::string folders(path);
+  std::size_t start = 0;
+  while (start <= folders.size()) {
+    std::size_t end = folders.find(separator, start);
+    if (end == std::string::npos)
+      end = folders.size();
+    const std::string folder = folders.substr(start, end - start);
+    start = end + 1;
+    if (folder.empty())
+      continue;
+    for (const std::string& suffix : suffixes) {
+      std::error_code error;
+      const std::filesystem::path candidate = std::filesystem::path(folder) / (name + suffix);
+      if (std::filesystem::is_regular_file(candidate, error))
+        return candidate.string();
+    }
+  }
+  return "";
+}

@@ -28,3 +28,7 @@ ChildResult RunChild(const std::vector<std::string>& argv, double timeoutSeconds
 
 /// True when RunChild can run programs on this system.
 bool CanRunChildren();
+
+/// The full path of the program `name` found in the folders of the PATH environment variable (on Windows
+/// also with ".exe" appended), or "" when none of them holds it. RunChild needs a full path.
+std::string FindProgramOnPath(const std::string& name);

@@ -65,6 +65,19 @@ std::vector<std::string> ListCaseFolders(const fs::path& root) {
   return names;
 }
 
+std::vector<std::string> ListFilesWithSuffix(const fs::path& root, const std::string& suffix) {
+  std::vector<std::string> names;
+  std::error_code error;
+  for (fs::directory_iterator it(root, error), end; !error && it != end; it.increment(error)) {
+    const std::string name = it->path().filename().u8string();
+    if (it->is_regular_file(error) && name.size() >= suffix.size() &&
+        name.compare(name.size() - suffix.size(), suffix.size(), suffix) == 0)
+      names.push_back(name);
+  }
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
 std::vector<std::string> SplitLines(const std::string& text) {
   std::vector<std::string> lines;
   std::size_t start = 0;

@@ -33,6 +33,10 @@ std::string ReadFileBytes(const std::filesystem::path& path);
 /// The names of the folders directly inside `root`, sorted bytewise; empty when `root` is no folder.
 std::vector<std::string> ListCaseFolders(const std::filesystem::path& root);
 
+/// The names of the regular files directly inside `root` whose names end with `suffix` (".xml"), sorted
+/// bytewise; empty when `root` is no folder.
+std::vector<std::string> ListFilesWithSuffix(const std::filesystem::path& root, const std::string& suffix);
+
 /// `text` split at LF. A CR right before an LF belongs to the line end; a final LF ends the last line and
 /// starts no empty one (so "" gives no line and "a\n\n" gives "a" and "").
 std::vector<std::string> SplitLines(const std::string& text);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // KCParagraph and KCDocument: a tree of named sections holding key/value pairs, and the document that owns
-// the tree and writes it as XML.
+// the tree, writes it as XML and reads it back.
 //
 // Values are kept as text in write order; typed reads convert on the way out and give the caller's default
 // for a missing key (or, for the strict reads, for text that is not wholly of the asked type). Attributes,
@@ -13,6 +13,10 @@
 //   pen->WriteInteger("Width", 2);
 //   int width = pen->ReadInteger("Width", 1);            // 2
 //   std::string xml = doc.ToXml();
+//
+//   KCDocument loaded;
+//   if (!loaded.LoadFromText(xml))                      // or LoadFromFile(path)
+//     std::cerr << loaded.GetLoadError() << "\n";      // "line 3, column 7: undefined entity &nbsp; ..."
 #pragma once
 
 #include <memory>
@@ -24,6 +28,10 @@
 #include "ncappkit/foundation/KCColor.h"
 #include "ncappkit/foundation/KCPenStyle.h"
 #include "ncappkit/foundation/KCString.h"
+
+namespace ncappkit_detail {
+struct KCParagraphBuilder;  // the XML reader of KCDocument (private to the library)
+}
 
 /// A named section of key/value texts with child sections, written as an XML element by KCDocument.
 class NCAPPKIT_EXPORT KCParagraph {
@@ -101,6 +109,8 @@ class NCAPPKIT_EXPORT KCParagraph {
   const KCString& GetDocumentationName() const noexcept { return m_docName; }
 
  private:
+  friend struct ncappkit_detail::KCParagraphBuilder;
+
   Entry* FindEntry(const KCString& key) noexcept;
   const Entry* FindEntry(const KCString& key) const noexcept;
 
@@ -111,14 +121,21 @@ class NCAPPKIT_EXPORT KCParagraph {
   KCString m_docText;
 };
 
-/// The owner of a KCParagraph tree, which it writes as XML.
+/// The owner of a KCParagraph tree, which it writes as XML and reads back from XML.
 class NCAPPKIT_EXPORT KCDocument {
  public:
+  /// The deepest nesting of elements that LoadFromText and LoadFromFile read: the root element is at depth
+  /// 1, and a document with an element at depth kMaxXmlDepth + 1 is refused (the default limit of libxml2 as
+  /// well). It bounds the recursion of the copy, ToXml and the destructor of a loaded tree. A documentation
+  /// entry is an element too, so a tree whose deepest section holds one reads back when its sections nest at
+  /// most kMaxXmlDepth - 1 deep.
+  static constexpr int kMaxXmlDepth = 256;
+
   /// A document without a root section.
   KCDocument() = default;
-  /// Deep copy of the tree.
+  /// Deep copy of the tree (and of the last load error).
   KCDocument(const KCDocument& other);
-  /// Deep copy of the tree.
+  /// Deep copy of the tree (and of the last load error).
   KCDocument& operator=(const KCDocument& other);
   virtual ~KCDocument();
 
@@ -137,6 +154,69 @@ class NCAPPKIT_EXPORT KCDocument {
   /// path with a NUL byte.
   bool SaveToFile(const KCString& path) const;
 
+  /// Replace the tree by the one the XML document `xml` describes. True on success, and GetLoadError() is
+  /// then empty. False when `xml` is not a well-formed XML 1.0 document or is one this reader refuses (see
+  /// below); GetLoadError() then says where and why, and the tree stays exactly as it was (the text is read
+  /// into a new tree, which replaces the old one only when the whole text has been read). Time is linear in
+  /// the size of the text.
+  ///
+  /// How XML becomes a tree:
+  /// - The root element is the root section; every element is a section with its tag as name and its
+  ///   attributes as keys, in document order, their values as the text they stand for (references resolved,
+  ///   nothing trimmed). Child elements are child sections in document order; same-named children stay
+  ///   separate sections.
+  /// - The documentation entry of a section is its first child element when that element has no attributes,
+  ///   is written as a start tag and an end tag (`<d>text</d>` or `<d></d>`, not `<d/>`) and has no child
+  ///   elements; its name is the element's name and its text the element's text, byte for byte (white space
+  ///   kept; comments and processing instructions in it skipped; CDATA sections as they stand). Two cases are
+  ///   ambiguous, both about empty elements: an empty documentation entry that another tool rewrote from
+  ///   `<d></d>` to `<d/>` (as `xmllint --format` does) reads as an empty child section `d`; and an empty
+  ///   first child section without attributes that a tool wrote as `<c></c>` reads as an empty
+  ///   documentation entry. ToXml itself writes neither.
+  /// - White space between elements is ignored. Other text directly inside a section (the root, an element
+  ///   with attributes or child elements, any element after the first) has no place in the tree and is
+  ///   refused with a reason, so that nothing is silently lost; so is an element holding both text and
+  ///   child elements.
+  /// - Comments and processing instructions are skipped anywhere.
+  ///
+  /// Round trip: LoadFromText(ToXml()) gives back the tree that ToXml describes, equal in section names,
+  /// keys and their order, values byte for byte, documentation names and texts, and nesting (up to
+  /// kMaxXmlDepth). Where ToXml itself changes the tree, the loaded tree is the changed one: names trimmed
+  /// of blanks and with characters an XML name may not hold replaced by '_' (or prefixed by '_', an empty
+  /// name written "_"), repeated attribute names suffixed "_2", "_3", ..., bytes that are not UTF-8 read back
+  /// as the Latin-1 characters ToXml wrote for them, characters that XML forbids read back as '?', a
+  /// documentation entry with text but no name read back with the name "_".
+  ///
+  /// What is read besides ToXml's own output (text that a person or another tool may have touched): a UTF-8
+  /// byte-order mark; an XML declaration with version 1.x (read as 1.0), encoding UTF-8 (any case, also
+  /// "UTF8") and standalone; CR LF and lone CR line ends (read as LF, XML end-of-line handling); comments;
+  /// processing instructions; CDATA sections; decimal and hexadecimal character references and the five
+  /// predefined entities; both quote styles; blanks around '='; any indentation. Attribute values are
+  /// normalised as XML 1.0 demands: a literal tab, line feed or carriage return (CR LF counting as one)
+  /// becomes a blank, while a character reference (`&#9;`, `&#10;`, `&#13;`) keeps its character. Names
+  /// follow the XML 1.0 (fifth edition) rules. Namespaces are not processed: "xsd:element" is just a name,
+  /// and an undeclared prefix is no error.
+  ///
+  /// Refused, each with a reason: a document that is not UTF-8 (a UTF-16 byte-order mark, a declared
+  /// encoding other than UTF-8, bytes that are not valid UTF-8 anywhere), a DOCTYPE declaration (its
+  /// entities and default attributes would change the tree; not read), characters XML does not allow (also
+  /// as character references), an undefined entity, '<' in an attribute value, a repeated attribute,
+  /// mismatched or missing end tags, a truncated document, a missing root, a second root or text after the
+  /// root, and elements nested deeper than kMaxXmlDepth.
+  bool LoadFromText(const std::string& xml);
+  /// LoadFromText with the bytes of the file at `path`. When the file cannot be opened or read, false, the
+  /// tree unchanged, and GetLoadError() names the file and the system's reason ("cannot open the file
+  /// \"PATH\": No such file or directory").
+  bool LoadFromFile(const KCString& path);
+  /// Why the last load failed: "line L, column C: reason", L and C counted from 1, C in characters (Unicode
+  /// code points of the UTF-8 text; a tab is one character, and so is a byte that is not valid UTF-8),
+  /// lines ended by LF, CR LF or CR; the position is where the problem shows (for a document that ends too
+  /// early, the end of the text, or the start of the comment, CDATA section, processing instruction or
+  /// attribute value left open). For a file that could not be read, the reason alone. Empty after a
+  /// successful load and before any load.
+  std::string GetLoadError() const { return m_loadError; }
+
  private:
   std::unique_ptr<KCParagraph> m_root;
+  std::string m_loadError;
 };

@@ -17,6 +17,9 @@
 //   KCDocument loaded;
 //   if (!loaded.LoadFromText(xml))                      // or LoadFromFile(path)
 //     std::cerr << loaded.GetLoadError() << "\n";      // "line 3, column 7: undefined entity &nbsp; ..."
+//
+// What the XML round trip keeps and where it reads differently from other XML tools (documentation
+// entries, DOCTYPE, encodings, the depth limit) is listed in docs/behaviours.md#xml-documents.
 #pragma once
 
 #include <memory>

@@ -88,6 +88,7 @@
 
 // draw
 #include "ncappkit/draw/KCCanvas.h"
+#include "ncappkit/draw/KCI_Draw.h"
 #include "ncappkit/draw/KCI_ViewPort.h"
 
 // gui

@@ -87,6 +87,10 @@
 #include "ncappkit/schema/KCC_W3C_Schema.h"
 
 // draw
+#include "ncappkit/draw/KCC_FillAttributes.h"
+#include "ncappkit/draw/KCC_FontAttributes.h"
+#include "ncappkit/draw/KCC_LineAttributes.h"
+#include "ncappkit/draw/KCC_SvgCanvas.h"
 #include "ncappkit/draw/KCCanvas.h"
 #include "ncappkit/draw/KCI_Draw.h"
 #include "ncappkit/draw/KCI_ViewPort.h"

@@ -410,3 +410,7 @@ bool KCDocument::LoadFromFile(const KCString& path) {
   }
   return LoadFromText(bytes);
 }
+
+// The class constant has a definition in the library as well, so that a client of the Windows DLL that binds
+// it to a reference finds it there.
+constexpr int KCDocument::kMaxXmlDepth;

@@ -19,3 +19,9 @@ bool KCC_GUI_Keys::ControlPressed() const {
 bool KCC_GUI_Keys::AltKeyPressed() const {
   return m_alt;
 }
+
+// The class constants have definitions in the library as well, so that a client of the Windows DLL that binds
+// them to a reference finds them there.
+constexpr unsigned int KCC_GUI_Keys::kShiftFlag;
+constexpr unsigned int KCC_GUI_Keys::kControlFlag;
+constexpr unsigned int KCC_GUI_Keys::kAltFlag;

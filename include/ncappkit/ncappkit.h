@@ -87,6 +87,7 @@
 #include "ncappkit/schema/KCC_W3C_Schema.h"
 
 // draw
+#include "ncappkit/draw/KCC_Draw.h"
 #include "ncappkit/draw/KCC_FillAttributes.h"
 #include "ncappkit/draw/KCC_FontAttributes.h"
 #include "ncappkit/draw/KCC_LineAttributes.h"

@@ -45,6 +45,7 @@
 #include "ncappkit/nc/KCC_NcFileProgramList.h"
 #include "ncappkit/nc/KCC_NcFileProgramVisitor.h"
 #include "ncappkit/nc/KCC_NcProgramParametersCreator.h"
+#include "ncappkit/nc/KCC_NcToolPath.h"
 #include "ncappkit/nc/KCC_ParseNc.h"
 
 // units

@@ -7,10 +7,8 @@
 #include <charconv>
 #include <cmath>
 #include <cstdint>
-#include <filesystem>
-#include <system_error>
 
-#include "foundation/KCReplaceFile.h"
+#include "ncappkit/foundation/KCFileMan.h"
 
 namespace {
 
@@ -539,16 +537,5 @@ std::string KCC_SvgCanvas::ToSvg() const {
 }
 
 bool KCC_SvgCanvas::SaveToFile(const KCString& path) const {
-  // A NUL byte cannot stand in a file name; the system would write to the part before it.
-  if (path.str().find('\0') != std::string::npos)
-    return false;
-  // A symbolic link is followed, so the file it names gets the new image and the link stays a link.
-  std::string target = path.str();
-  std::error_code error;
-  if (std::filesystem::is_symlink(target, error)) {
-    const std::filesystem::path resolved = std::filesystem::canonical(target, error);
-    if (!error)
-      target = resolved.string();
-  }
-  return ncappkit_detail::ReplaceFileContents(target, ToSvg());
+  return KCFileMan::ReplaceFileContents(path, ToSvg());
 }

@@ -4,9 +4,11 @@
 #include <sys/stat.h>
 
 #include <array>
+#include <filesystem>
 #include <string>
 
 #include "foundation/KCPlatformDetail.h"
+#include "foundation/KCReplaceFile.h"
 
 namespace {
 
@@ -82,4 +84,19 @@ KCString KCFileMan::GetFullFileVersion(const KCString& path, bool withBuild) {
   if (withBuild)
     text += KCString(".") + KCString(version[3], false);
   return text;
+}
+
+bool KCFileMan::ReplaceFileContents(const KCString& path, const std::string& content) {
+  // A NUL byte cannot stand in a file name; the system would write to the part before it.
+  if (path.str().find('\0') != std::string::npos)
+    return false;
+  // A symbolic link is followed, so the file it names gets the new contents and the link stays a link.
+  std::string target = path.str();
+  std::error_code error;
+  if (std::filesystem::is_symlink(target, error)) {
+    const std::filesystem::path resolved = std::filesystem::canonical(target, error);
+    if (!error)
+      target = resolved.string();
+  }
+  return ncappkit_detail::ReplaceFileContents(target, content);
 }

@@ -22,16 +22,14 @@
 #include "ncappkit/foundation/KCParagraph.h"
 
 #include <cstdint>
-#include <filesystem>
 #include <memory>
 #include <set>
 #include <string>
-#include <system_error>
 #include <utility>
 
-#include "foundation/KCReplaceFile.h"
 #include "foundation/KCXmlChars.h"
 #include "foundation/KCXmlReader.h"
+#include "ncappkit/foundation/KCFileMan.h"
 
 namespace {
 
@@ -375,18 +373,7 @@ std::string KCDocument::ToXml() const {
 }
 
 bool KCDocument::SaveToFile(const KCString& path) const {
-  // A NUL byte cannot stand in a file name; the system would write to the part before it.
-  if (path.str().find('\0') != std::string::npos)
-    return false;
-  // A symbolic link is followed, so the file it names gets the new contents and the link stays a link.
-  std::string target = path.str();
-  std::error_code error;
-  if (std::filesystem::is_symlink(target, error)) {
-    const std::filesystem::path resolved = std::filesystem::canonical(target, error);
-    if (!error)
-      target = resolved.string();
-  }
-  return ncappkit_detail::ReplaceFileContents(target, ToXml());
+  return KCFileMan::ReplaceFileContents(path, ToXml());
 }
 
 bool KCDocument::LoadFromText(const std::string& xml) {

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <string>
 
 #include "ncappkit/foundation/KCFileMan.h"
@@ -96,4 +97,34 @@ TEST_F(KcFileManFiles, PathWithANulByteNamesNoFileEvenWhenItsFirstPartDoes) {
 
   EXPECT_FALSE(KCFileMan::FileExists(KCString(file.str() + std::string(1, '\0') + "x")));
   EXPECT_FALSE(KCFileMan::DirectoryExists(KCString(dir + std::string(1, '\0') + "x")));
+}
+
+TEST_F(KcFileManFiles, ReplaceFileContentsReplacesAnExistingFileWhole) {
+  const KCString path = Write("job.xml");
+
+  const bool written = KCFileMan::ReplaceFileContents(path, std::string("new\0text", 8));
+
+  EXPECT_TRUE(written);
+  std::ifstream in(path.str(), std::ios::binary);
+  const std::string contents((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+  EXPECT_EQ(contents, std::string("new\0text", 8));
+  EXPECT_EQ(std::distance(fs::directory_iterator(dir_), fs::directory_iterator()), 1);  // no temporary left
+}
+
+TEST_F(KcFileManFiles, ReplaceFileContentsInAMissingFolderFailsAndWritesNothing) {
+  const KCString path((dir_ / "missing" / "job.xml").string());
+
+  EXPECT_FALSE(KCFileMan::ReplaceFileContents(path, "text"));
+  EXPECT_FALSE(fs::exists(dir_ / "missing"));
+}
+
+TEST_F(KcFileManFiles, ReplaceFileContentsRefusesAPathWithANulByte) {
+  const KCString existing = Write("a");
+  const KCString path(existing.str() + std::string("\0b", 2));
+
+  EXPECT_FALSE(KCFileMan::ReplaceFileContents(path, "text"));
+  std::ifstream in(existing.str());
+  std::string contents;
+  in >> contents;
+  EXPECT_EQ(contents, "x");
 }

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
-// KCFileMan: static file helpers: existence, file-name parts and the version text of an executable.
+// KCFileMan: static file helpers: existence, file-name parts, safe replacement of a file's contents and the
+// version text of an executable.
 //
 //   if (KCFileMan::FileExists("C:\\nc\\part.nc")) ...
 //   KCString base = KCFileMan::ExtractFileNameNoExt("/opt/app/bin/mill.exe");   // "mill"
 #pragma once
+
+#include <string>
 
 #include "ncappkit/export.h"
 #include "ncappkit/foundation/KCString.h"
@@ -26,6 +29,12 @@ class NCAPPKIT_EXPORT KCFileMan {
   static KCString ExtractFilePath(const KCString& path);
   /// The last extension with its point: "part.nc" gives ".nc"; "" when there is none.
   static KCString ExtractFileExt(const KCString& path);
+
+  /// Write `content` byte for byte to `path` through a new temporary file beside it that is then renamed over
+  /// it, so an existing file is replaced only by a complete new one; a symbolic link is followed and stays a
+  /// link. True on success; false, with whatever was at `path` left as it was, when the file cannot be written
+  /// or the path holds a NUL byte. Every saver of the library (documents, SVG pictures) writes through it.
+  static bool ReplaceFileContents(const KCString& path, const std::string& content);
 
   /// Version text of the executable file `path` as "major.minor.release.build".
   /// On Windows it is read from the file's version resource ("" when the file has none); `withBuild` false

@@ -115,14 +115,20 @@ failed_tests() {
 failures=$(failed_tests "$junit")
 silent=$(sed -n 's/^silent //p' <<<"$failures")
 loud=$(sed -n 's/^loud //p' <<<"$failures")
-if [[ $tests_ok -eq 0 && -n "$silent" && -z "$loud" ]]; then
-  # Only silent failures: run exactly those tests once more; a test that fails again fails the lane.
+if [[ $tests_ok -eq 0 && -n "$silent" ]]; then
+  # Silent failures are run exactly once more, whatever else failed; a test that fails again fails the lane,
+  # and so does any test that failed with output (those are never run again).
   echo "windows lane: running again the tests that failed without printing anything:" $silent
   # Names of parameterised tests carry their parameter ("  # GetParam() = 12", or a byte dump in angle
   # brackets), so the JUnit entities are decoded and every regular-expression character is escaped.
   pattern=$(sed -e 's/&lt;/</g; s/&gt;/>/g; s/&quot;/"/g; s/&apos;/'"'"'/g; s/&amp;/\&/g' \
                 -e 's/[][\\.^$*+?(){}|]/\\&/g' <<<"$silent" | paste -sd '|' -)
-  ctest --preset windows -R "^($pattern)\$" && tests_ok=1
+  if ctest --preset windows -R "^($pattern)\$" && [[ -z "$loud" ]]; then
+    tests_ok=1
+  fi
+fi
+if [[ -n "$loud" ]]; then
+  echo "windows lane: tests that failed with output:" $loud
 fi
 
 skipped=$(sed -n 's/^[[:space:]]*skipped="\([0-9]*\)".*/\1/p' "$junit" | head -n 1)

@@ -204,8 +204,15 @@ ChildResult RunChild(const std::vector<std::string>& argv, double timeoutSeconds
   for (const std::string& a : argv)
     commandLine += (commandLine.empty() ? "" : " ") + QuoteArgument(a);
   PROCESS_INFORMATION process{};
-  const BOOL started = CreateProcessA(argv[0].c_str(), commandLine.data(), nullptr, nullptr, TRUE,
-                                      CREATE_NO_WINDOW, nullptr, nullptr, &startup, &process);
+  // Under wine on a busy machine a start fails now and then for no reason of the program's own, so a failed
+  // start is tried twice more before the child counts as not started (a missing program fails all three).
+  BOOL started = FALSE;
+  for (int attempt = 0; attempt < 3 && !started; ++attempt) {
+    if (attempt > 0)
+      Sleep(200);
+    started = CreateProcessA(argv[0].c_str(), commandLine.data(), nullptr, nullptr, TRUE, CREATE_NO_WINDOW,
+                             nullptr, nullptr, &startup, &process);
+  }
   CloseHandle(outWrite);
   CloseHandle(errWrite);
   if (nul != INVALID_HANDLE_VALUE)

@@ -36,7 +36,17 @@ TEST_F(NckitPlotCorpus, EveryFilePlotsWithinItsTimeBudget) {
   ASSERT_FALSE(files.empty()) << "the corpus at " << root.string() << " holds no file";
   TempDir dir;
   int drawn = 0;
+  int skipped = 0;
   for (const std::filesystem::path& file : files) {
+#ifdef _WIN32
+    // nckit.exe receives its arguments in the system's ANSI code page, which cannot hold every name of the
+    // corpus (some are Japanese), so on Windows only the files with ASCII paths are plotted.
+    const std::string name = file.string();
+    if (std::any_of(name.begin(), name.end(), [](char c) { return static_cast<unsigned char>(c) >= 0x80; })) {
+      ++skipped;
+      continue;
+    }
+#endif
     const std::string target = dir.Path("plot.svg");
     std::filesystem::remove(target, ec);
     const auto start = std::chrono::steady_clock::now();
@@ -55,6 +65,7 @@ TEST_F(NckitPlotCorpus, EveryFilePlotsWithinItsTimeBudget) {
   }
   RecordProperty("files", static_cast<int>(files.size()));
   RecordProperty("drawn", drawn);
+  RecordProperty("skipped_non_ascii_paths", skipped);
   EXPECT_GT(drawn, 0);
 }
 

@@ -55,6 +55,10 @@ std::vector<std::string> CaseArguments(const std::string& name) {
 
 // Paths of this machine written back as the placeholders.
 std::string Normalised(std::string text, const std::string& name) {
+  // In JSON a backslash of a Windows path is written doubled, so that form is replaced first.
+  std::string jsonFolder = CaseFolder(name);
+  ReplaceAll(jsonFolder, "\\", "\\\\");
+  ReplaceAll(text, jsonFolder, "{case}");
   ReplaceAll(text, CaseFolder(name), "{case}");
   ReplaceAll(text, NCAPPKIT_SOURCE_DIR, "{source}");
   return text;

@@ -26,54 +26,23 @@
 #include <vector>
 
 #include "bench_nc_load_file.h"
+#include "bench_sampling.h"
 #include "ncappkit/nc/KCC_NcFile.h"
 
 namespace {
 
 std::unique_ptr<bench_nc::TestFile> g_file;
 
-struct Samples {
-  std::vector<double> wall;
-  std::vector<double> cpu;
-};
+using bench_sampling::Measure;
+using bench_sampling::Median;
+using bench_sampling::Min;
+using bench_sampling::Samples;
+
 Samples g_floor;
 Samples g_library;
 
-// CPU time of the calling thread: on a machine shared with other work it varies less than wall time.
-double ThreadCpuSeconds() {
-  timespec ts{};
-  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &ts);
-  return static_cast<double>(ts.tv_sec) + static_cast<double>(ts.tv_nsec) * 1e-9;
-}
-
-// Merges the small blocks a sample freed into the allocator's free lists, so that no sample pays for the
-// garbage of the one before it, which may be of the other side. glibc keeps freed small blocks unmerged until
-// the next request for a large block; a side whose own frees end with a large block pays that merge itself,
-// one whose frees do not leaves it to whichever sample comes next. Each sample ends with this request, inside
-// its timed region: every side pays for merging its own garbage and only for that.
-void MergeFreedMemory() {
-  void* large = std::malloc(std::size_t{1} << 12);
-  benchmark::DoNotOptimize(large);
-  std::free(large);
-}
-
-template <class Load>
-void Measure(benchmark::State& state, Samples& samples, Load load) {
-  for (auto _ : state) {
-    const double cpuStart = ThreadCpuSeconds();
-    const auto start = std::chrono::steady_clock::now();
-    load();
-    MergeFreedMemory();
-    const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-    samples.wall.push_back(seconds);
-    samples.cpu.push_back(ThreadCpuSeconds() - cpuStart);
-  }
-  state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) *
-                          static_cast<std::int64_t>(g_file->bytes));
-}
-
 void BM_GetlineIntoVectorFloor(benchmark::State& state) {
-  Measure(state, g_floor, [] {
+  Measure(state, g_floor, g_file->bytes, [] {
     std::ifstream in(g_file->path);
     std::vector<std::string> lines;
     std::string line;
@@ -91,7 +60,7 @@ BENCHMARK(BM_GetlineIntoVectorFloor)
     ->Repetitions(15);
 
 void BM_KccNcFileLoadFromFile(benchmark::State& state) {
-  Measure(state, g_library, [] {
+  Measure(state, g_library, g_file->bytes, [] {
     KCC_NcFile file;
     KCC_NcFileProgram* last = file.LoadFromFile(g_file->path, false, false);
     benchmark::DoNotOptimize(last);
@@ -104,17 +73,6 @@ BENCHMARK(BM_KccNcFileLoadFromFile)
     ->UseRealTime()
     ->Iterations(1)
     ->Repetitions(15);
-
-double Min(std::vector<double> v) {
-  return v.empty() ? 0.0 : *std::min_element(v.begin(), v.end());
-}
-double Median(std::vector<double> v) {
-  if (v.empty())
-    return 0.0;
-  std::sort(v.begin(), v.end());
-  const std::size_t h = v.size() / 2;
-  return v.size() % 2 == 1 ? v[h] : (v[h - 1] + v[h]) / 2.0;
-}
 
 void PrintSummary() {
   if (g_floor.wall.empty() || g_library.wall.empty())

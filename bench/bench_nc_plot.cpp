@@ -21,6 +21,7 @@
 
 #include "NckitPlot.h"
 #include "bench_nc_load_file.h"
+#include "bench_sampling.h"
 #include "ncappkit/nc/KCC_NcFile.h"
 #include "ncappkit/nc/KCC_NcFileProgram.h"
 #include "ncappkit/nc/KCC_NcToolPath.h"
@@ -119,16 +120,8 @@ void BM_InterpretOnly(benchmark::State& state) {
 }
 BENCHMARK(BM_InterpretOnly)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(1)->Repetitions(7);
 
-double Min(const std::vector<double>& v) {
-  return v.empty() ? 0.0 : *std::min_element(v.begin(), v.end());
-}
-double Median(std::vector<double> v) {
-  if (v.empty())
-    return 0.0;
-  std::sort(v.begin(), v.end());
-  const std::size_t h = v.size() / 2;
-  return v.size() % 2 == 1 ? v[h] : (v[h - 1] + v[h]) / 2.0;
-}
+using bench_sampling::Median;
+using bench_sampling::Min;
 
 void PrintSummary() {
   if (g_loadSeconds.empty() || g_plotSeconds.empty() || g_segments == 0)

@@ -24,6 +24,7 @@
 #include <string>
 #include <vector>
 
+#include "bench_sampling.h"
 #include "ncappkit/nc/KCC_NcFile.h"
 #include "ncappkit/nc/KCC_NcToolPath.h"
 
@@ -99,42 +100,16 @@ std::size_t g_segments = 0;
 std::size_t g_capacityBytes = 0;
 std::uint64_t g_warnings = 0;
 
-struct Samples {
-  std::vector<double> wall;
-  std::vector<double> cpu;
-};
+using bench_sampling::Measure;
+using bench_sampling::Median;
+using bench_sampling::Min;
+using bench_sampling::Samples;
+
 Samples g_load;
 Samples g_interpret;
 
-double ThreadCpuSeconds() {
-  timespec ts{};
-  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &ts);
-  return static_cast<double>(ts.tv_sec) + static_cast<double>(ts.tv_nsec) * 1e-9;
-}
-
-void MergeFreedMemory() {
-  void* large = std::malloc(std::size_t{1} << 12);
-  benchmark::DoNotOptimize(large);
-  std::free(large);
-}
-
-template <class Work>
-void Measure(benchmark::State& state, Samples& samples, Work work) {
-  for (auto _ : state) {
-    const double cpuStart = ThreadCpuSeconds();
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    MergeFreedMemory();
-    const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-    samples.wall.push_back(seconds);
-    samples.cpu.push_back(ThreadCpuSeconds() - cpuStart);
-  }
-  state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) *
-                          static_cast<std::int64_t>(g_file->bytes));
-}
-
 void BM_KccNcFileLoadFromFile(benchmark::State& state) {
-  Measure(state, g_load, [] {
+  Measure(state, g_load, g_file->bytes, [] {
     KCC_NcFile file;
     KCC_NcFileProgram* last = file.LoadFromFile(g_file->path, false, false);
     benchmark::DoNotOptimize(last);
@@ -149,7 +124,7 @@ BENCHMARK(BM_KccNcFileLoadFromFile)
     ->Repetitions(15);
 
 void BM_KccNcToolPathInterpret(benchmark::State& state) {
-  Measure(state, g_interpret, [] {
+  Measure(state, g_interpret, g_file->bytes, [] {
     KCC_NcToolPath path;
     path.Interpret(*g_loaded, *g_loaded->GetMainProgList().GetProgram(0));
     if (!path.IsComplete() || path.GetSegmentCount() == 0)
@@ -165,17 +140,6 @@ BENCHMARK(BM_KccNcToolPathInterpret)
     ->UseRealTime()
     ->Iterations(1)
     ->Repetitions(15);
-
-double Min(std::vector<double> v) {
-  return v.empty() ? 0.0 : *std::min_element(v.begin(), v.end());
-}
-double Median(std::vector<double> v) {
-  if (v.empty())
-    return 0.0;
-  std::sort(v.begin(), v.end());
-  const std::size_t h = v.size() / 2;
-  return v.size() % 2 == 1 ? v[h] : (v[h - 1] + v[h]) / 2.0;
-}
 
 void PrintSummary() {
   if (g_load.wall.empty() || g_interpret.wall.empty())

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+// Timing helpers shared by the benchmarks that compare two sides in one process: each sample's wall and
+// thread CPU time, the allocator clean-up every sample pays for itself, and the minimum and median.
+//
+//   bench_sampling::Samples g_library;
+//   void BM_Load(benchmark::State& state) {
+//     bench_sampling::Measure(state, g_library, fileBytes, [] { /* one load */ });
+//   }
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdint>
+#include <cstdlib>
+#include <ctime>
+#include <vector>
+
+namespace bench_sampling {
+
+/// Wall and thread CPU seconds of every sample of one side.
+struct Samples {
+  std::vector<double> wall;
+  std::vector<double> cpu;
+};
+
+// CPU time of the calling thread: on a machine shared with other work it varies less than wall time.
+inline double ThreadCpuSeconds() {
+  timespec ts{};
+  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &ts);
+  return static_cast<double>(ts.tv_sec) + static_cast<double>(ts.tv_nsec) * 1e-9;
+}
+
+// Merges the small blocks a sample freed into the allocator's free lists, so that no sample pays for the
+// garbage of the one before it, which may be of the other side. glibc keeps freed small blocks unmerged until
+// the next request for a large block; a side whose own frees end with a large block pays that merge itself,
+// one whose frees do not leaves it to whichever sample comes next. Each sample ends with this request, inside
+// its timed region: every side pays for merging its own garbage and only for that.
+inline void MergeFreedMemory() {
+  void* large = std::malloc(std::size_t{1} << 12);
+  benchmark::DoNotOptimize(large);
+  std::free(large);
+}
+
+// Runs `work` once per iteration as one sample (MergeFreedMemory included) and records its times; each
+// sample counts `bytesPerSample` bytes processed.
+template <class Work>
+void Measure(benchmark::State& state, Samples& samples, std::uint64_t bytesPerSample, Work work) {
+  for (auto _ : state) {
+    const double cpuStart = ThreadCpuSeconds();
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    MergeFreedMemory();
+    const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    samples.wall.push_back(seconds);
+    samples.cpu.push_back(ThreadCpuSeconds() - cpuStart);
+  }
+  state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) *
+                          static_cast<std::int64_t>(bytesPerSample));
+}
+
+inline double Min(const std::vector<double>& v) {
+  return v.empty() ? 0.0 : *std::min_element(v.begin(), v.end());
+}
+
+inline double Median(std::vector<double> v) {
+  if (v.empty())
+    return 0.0;
+  std::sort(v.begin(), v.end());
+  const std::size_t h = v.size() / 2;
+  return v.size() % 2 == 1 ? v[h] : (v[h - 1] + v[h]) / 2.0;
+}
+
+}  // namespace bench_sampling

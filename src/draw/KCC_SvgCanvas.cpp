@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
-// KCC_SvgCanvas: shapes are kept as records (kind, geometry and a copy of the settings) and turned into SVG
-// text only by ToSvg, so the precision set last applies to the whole image.
+// KCC_SvgCanvas: shapes are kept as small records (kind, geometry, the index of a settings snapshot, a range
+// of one shared point array) and turned into SVG text only by ToSvg, so the precision set last applies to
+// the whole image. ToSvg appends straight into the one output string; numbers take an integer path that
+// gives the same text as std::to_chars (see AppendNumber).
 #include "ncappkit/draw/KCC_SvgCanvas.h"
 
 #include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <cstring>
+#include <limits>
 
 #include "ncappkit/foundation/KCFileMan.h"
 
@@ -17,6 +21,14 @@ namespace {
 constexpr int kDefaultPrecision = 2;
 // SetPrecision clamps to 0..kMaxPrecision; more decimals than this only write the noise of the doubles.
 constexpr int kMaxPrecision = 10;
+// Powers of ten up to kMaxPrecision, each exact in a double.
+constexpr double kPow10[kMaxPrecision + 1] = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10};
+// AppendNumber: a value whose scaled form (value * 10^decimals) is below this in magnitude takes the integer
+// path; the scaling's rounding error is then below 1.2e-7 of a unit of the last decimal.
+constexpr double kFastNumberLimit = 1e9;
+// AppendNumber: the integer path is taken only when the scaled value's fraction lies further than this from
+// one half, far beyond the scaling error, so its rounding always agrees with the exact rounding of to_chars.
+constexpr double kTieGuard = 1e-6;
 // Decimals of fill-opacity and stroke-opacity (alpha / 255), independent of the coordinate precision.
 constexpr int kOpacityDecimals = 3;
 // The baseline of a text lies this fraction of the font size below the top of its box; typical sans-serif
@@ -63,6 +75,98 @@ std::string FormatNumber(double value, int decimals) {
     text = "0";
   return text;
 }
+
+// FormatNumber(value, decimals) written at `p`, with the common case done on integers: the value scaled by
+// 10^decimals is rounded to the nearest integer unless it lies near a tie, and its digits are written with
+// the decimal point put in. Returns the end of the text, or nullptr (nothing written) for a tie, a large or
+// a non-finite value, which FormatNumber must write. `p` needs room for kFastNumberRoom characters.
+constexpr std::size_t kFastNumberRoom = 24;
+char* WriteFastNumber(char* p, double value, int decimals) {
+  const double scaled = value * kPow10[decimals];
+  if (!(std::fabs(scaled) < kFastNumberLimit))
+    return nullptr;
+  const double whole = std::trunc(scaled);
+  const double fraction = std::fabs(scaled - whole);
+  if (!(std::fabs(fraction - 0.5) > kTieGuard))
+    return nullptr;
+  std::int64_t units = static_cast<std::int64_t>(whole);
+  if (fraction > 0.5)
+    units += scaled < 0.0 ? -1 : 1;
+  auto digits = static_cast<std::uint64_t>(units < 0 ? -units : units);
+  char buffer[kFastNumberRoom];
+  char* const end = buffer + sizeof buffer;
+  char* q = end;
+  int d = decimals;
+  while (d > 0 && digits % 10 == 0) {  // trailing zeros of the decimals are dropped
+    digits /= 10;
+    --d;
+  }
+  for (; d > 0; --d) {
+    *--q = static_cast<char>('0' + digits % 10);
+    digits /= 10;
+  }
+  if (q != end)
+    *--q = '.';
+  do {
+    *--q = static_cast<char>('0' + digits % 10);
+    digits /= 10;
+  } while (digits != 0);
+  if (units < 0)
+    *--q = '-';
+  const auto length = static_cast<std::size_t>(end - q);
+  std::memcpy(p, q, length);
+  return p + length;
+}
+
+// FormatNumber(value, decimals) appended to `out`.
+void AppendNumber(std::string& out, double value, int decimals) {
+  char buffer[kFastNumberRoom];
+  const char* end = WriteFastNumber(buffer, value, decimals);
+  if (end != nullptr)
+    out.append(buffer, static_cast<std::size_t>(end - buffer));
+  else
+    out += FormatNumber(value, decimals);
+}
+
+// Path steps are put together in a small buffer and appended at once: one append per step instead of one
+// per character.
+class StepWriter {
+ public:
+  StepWriter(std::string& out, int precision) : m_out(out), m_precision(precision) {}
+  void Char(char c) {
+    Room(1);
+    *m_p++ = c;
+  }
+  void Text(const char* text, std::size_t length) {
+    Room(length);
+    std::memcpy(m_p, text, length);
+    m_p += length;
+  }
+  void Number(double value) {
+    Room(kFastNumberRoom);
+    char* end = WriteFastNumber(m_p, value, m_precision);
+    if (end != nullptr) {
+      m_p = end;
+      return;
+    }
+    Flush();
+    m_out += FormatNumber(value, m_precision);
+  }
+  void Flush() {
+    m_out.append(m_buffer, static_cast<std::size_t>(m_p - m_buffer));
+    m_p = m_buffer;
+  }
+
+ private:
+  void Room(std::size_t length) {
+    if (static_cast<std::size_t>(m_buffer + sizeof m_buffer - m_p) < length)
+      Flush();
+  }
+  std::string& m_out;
+  int m_precision;
+  char m_buffer[256];
+  char* m_p = m_buffer;
+};
 
 bool IsFinite(const KC2DPoint& p) {
   return std::isfinite(p.GetX()) && std::isfinite(p.GetY());
@@ -120,9 +224,11 @@ void AppendUtf8(std::string& out, char32_t cp) {
   }
 }
 
-// `text` as XML character data, fit for element content and quoted attribute values alike.
-std::string EscapeXml(const std::string& text) {
-  std::string out;
+// `text` appended as XML character data, fit for element content and quoted attribute values alike. In
+// `content` mode line breaks and tabs stay as they are (element content keeps them); otherwise they are
+// written as references, which survive the white-space normalisation of attribute values. A carriage
+// return is always a reference, since a reader would turn it into a line feed.
+void AppendEscaped(std::string& out, const std::string& text, bool content = false) {
   for (std::size_t i = 0; i < text.size();) {
     const char32_t cp = NextChar(text, i);
     switch (cp) {
@@ -141,12 +247,11 @@ std::string EscapeXml(const std::string& text) {
       case '\'':
         out += "&apos;";
         break;
-      // As references they survive the white-space normalisation of attribute values.
       case '\t':
-        out += "&#9;";
+        out += content ? "\t" : "&#9;";
         break;
       case '\n':
-        out += "&#10;";
+        out += content ? "\n" : "&#10;";
         break;
       case '\r':
         out += "&#13;";
@@ -155,17 +260,15 @@ std::string EscapeXml(const std::string& text) {
         AppendUtf8(out, (cp < 0x20 || cp == 0xFFFE || cp == 0xFFFF) ? kReplacementChar : cp);
     }
   }
-  return out;
 }
 
-std::string HexColor(const KCColor& color) {
+void AppendHexColor(std::string& out, const KCColor& color) {
   static const char kDigits[] = "0123456789abcdef";
-  std::string text = "#";
+  out += '#';
   for (const int channel : {color.GetRed(), color.GetGreen(), color.GetBlue()}) {
-    text += kDigits[channel / 16];
-    text += kDigits[channel % 16];
+    out += kDigits[channel / 16];
+    out += kDigits[channel % 16];
   }
-  return text;
 }
 
 KCColor Complement(const KCColor& color) {
@@ -173,12 +276,19 @@ KCColor Complement(const KCColor& color) {
 }
 
 // ` name="#rrggbb"`, followed by ` name-opacity="..."` when the colour is not opaque.
-std::string ColorAttributes(const char* name, const KCColor& color) {
-  std::string text = std::string(" ") + name + "=\"" + HexColor(color) + "\"";
-  if (color.GetAlpha() < 255)
-    text += std::string(" ") + name + "-opacity=\"" +
-            FormatNumber(color.GetAlpha() / 255.0, kOpacityDecimals) + "\"";
-  return text;
+void AppendColorAttributes(std::string& out, const char* name, const KCColor& color) {
+  out += ' ';
+  out += name;
+  out += "=\"";
+  AppendHexColor(out, color);
+  out += '"';
+  if (color.GetAlpha() < 255) {
+    out += ' ';
+    out += name;
+    out += "-opacity=\"";
+    AppendNumber(out, color.GetAlpha() / 255.0, kOpacityDecimals);
+    out += '"';
+  }
 }
 
 bool IsMonospaceFamily(const KCString& name) {
@@ -217,66 +327,77 @@ KCColor KCC_SvgCanvas::GetPenColor() const {
 }
 void KCC_SvgCanvas::SetPenColor(const KCColor& color) {
   m_settings.penColor = color;
+  m_settingsChanged = true;
 }
 KCColor KCC_SvgCanvas::GetBrushColor() const {
   return m_settings.brushColor;
 }
 void KCC_SvgCanvas::SetBrushColor(const KCColor& color) {
   m_settings.brushColor = color;
+  m_settingsChanged = true;
 }
 KCColor KCC_SvgCanvas::GetFontColor() const {
   return m_settings.fontColor;
 }
 void KCC_SvgCanvas::SetFontColor(const KCColor& color) {
   m_settings.fontColor = color;
+  m_settingsChanged = true;
 }
 KCFontStyles KCC_SvgCanvas::GetFontStyles() const {
   return m_settings.fontStyles;
 }
 void KCC_SvgCanvas::SetFontStyles(const KCFontStyles& styles) {
   m_settings.fontStyles = styles;
+  m_settingsChanged = true;
 }
 KCString KCC_SvgCanvas::GetFontName() const {
   return m_settings.fontName;
 }
 void KCC_SvgCanvas::SetFontName(const KCString& name) {
   m_settings.fontName = name;
+  m_settingsChanged = true;
 }
 KCPenStyle KCC_SvgCanvas::GetPenStyle() const {
   return m_settings.penStyle;
 }
 void KCC_SvgCanvas::SetPenStyle(const KCPenStyle& style) {
   m_settings.penStyle = style;
+  m_settingsChanged = true;
 }
 KCPenMode KCC_SvgCanvas::GetPenMode() const {
   return m_settings.penMode;
 }
 void KCC_SvgCanvas::SetPenMode(const KCPenMode& mode) {
   m_settings.penMode = mode;
+  m_settingsChanged = true;
 }
 KCBrushStyle KCC_SvgCanvas::GetBrushStyle() const {
   return m_settings.brushStyle;
 }
 void KCC_SvgCanvas::SetBrushStyle(const KCBrushStyle& style) {
   m_settings.brushStyle = style;
+  m_settingsChanged = true;
 }
 int KCC_SvgCanvas::GetFontSize() const {
   return m_settings.fontSize;
 }
 void KCC_SvgCanvas::SetFontSize(int size) {
   m_settings.fontSize = size;
+  m_settingsChanged = true;
 }
 double KCC_SvgCanvas::GetTextAngle() const {
   return m_settings.textAngle;
 }
 void KCC_SvgCanvas::SetTextAngle(double degrees) {
   m_settings.textAngle = degrees;
+  m_settingsChanged = true;
 }
 int KCC_SvgCanvas::GetPenWidth() const {
   return m_settings.penWidth;
 }
 void KCC_SvgCanvas::SetPenWidth(int width) {
   m_settings.penWidth = width;
+  m_settingsChanged = true;
 }
 
 void KCC_SvgCanvas::MeasureText(const KCString& text, int& width, int& height) const {
@@ -328,6 +449,19 @@ void KCC_SvgCanvas::EllipseMark(const KC2DRectangle& bounds) {
   AddBox(ShapeKind::EllipseMark, bounds);
 }
 
+std::uint32_t KCC_SvgCanvas::CurrentStyle() {
+  if (m_settingsChanged || m_styles.empty()) {
+    m_styles.push_back(m_settings);
+    m_settingsChanged = false;
+  }
+  return static_cast<std::uint32_t>(m_styles.size() - 1);
+}
+
+void KCC_SvgCanvas::AddShape(Shape shape) {
+  shape.style = CurrentStyle();
+  m_shapes.push_back(shape);
+}
+
 void KCC_SvgCanvas::AddBox(ShapeKind kind, const KC2DRectangle& box) {
   m_pathOpen = false;
   if (!IsFinite(KC2DPoint(box.GetMinX(), box.GetMinY())) ||
@@ -335,12 +469,11 @@ void KCC_SvgCanvas::AddBox(ShapeKind kind, const KC2DRectangle& box) {
     return;
   Shape shape;
   shape.kind = kind;
-  shape.settings = m_settings;
   shape.x1 = box.GetMinX();
   shape.y1 = box.GetMinY();
   shape.x2 = box.GetMaxX();
   shape.y2 = box.GetMaxY();
-  m_shapes.push_back(std::move(shape));
+  AddShape(shape);
 }
 
 void KCC_SvgCanvas::TextOut(const KC2DPoint& origin, const KCString& text) {
@@ -349,12 +482,12 @@ void KCC_SvgCanvas::TextOut(const KC2DPoint& origin, const KCString& text) {
     return;
   Shape shape;
   shape.kind = ShapeKind::Text;
-  shape.settings = m_settings;
   shape.x1 = origin.GetX();
   shape.y1 = origin.GetY();
-  shape.text = text;
+  shape.first = m_texts.size();
+  m_texts.push_back(text.str());
   MeasureText(text, shape.textWidth, shape.textHeight);
-  m_shapes.push_back(std::move(shape));
+  AddShape(shape);
 }
 
 void KCC_SvgCanvas::Polygon(const KC2DPointList& points) {
@@ -363,58 +496,167 @@ void KCC_SvgCanvas::Polygon(const KC2DPointList& points) {
     return;
   Shape shape;
   shape.kind = ShapeKind::Polygon;
-  shape.settings = m_settings;
+  shape.first = m_points.size();
+  shape.count = points.size();
   for (const KC2DPoint& p : points)
-    shape.steps.push_back({false, p});
-  m_shapes.push_back(std::move(shape));
+    m_points.push_back({p.GetX(), p.GetY()});
+  AddShape(shape);
 }
 
 void KCC_SvgCanvas::MoveTo(const KC2DPoint& point) {
   m_current = point;
 }
 
-void KCC_SvgCanvas::LineTo(const KC2DPoint& point) {
-  const KC2DPoint from = m_current;
-  m_current = point;
-  if (!IsFinite(from) || !IsFinite(point))
-    return;
-  if (m_pathOpen) {
-    const Settings& pen = m_shapes.back().settings;
-    const bool samePen = pen.penColor == m_settings.penColor && pen.penStyle == m_settings.penStyle &&
-                         pen.penMode == m_settings.penMode &&
-                         DrawnPenWidth(pen.penWidth) == DrawnPenWidth(m_settings.penWidth);
-    if (samePen) {
-      std::vector<PathStep>& steps = m_shapes.back().steps;
-      if (steps.back().point != from)
-        steps.push_back({true, from});
-      steps.push_back({false, point});
-      return;
-    }
+bool KCC_SvgCanvas::SamePenAsOpenPath() const {
+  const std::uint32_t style = m_shapes.back().style;
+  if (!m_settingsChanged && style + 1 == m_styles.size())
+    return true;  // no setter was called since the path's settings were taken
+  const Settings& pen = m_styles[style];
+  return pen.penColor == m_settings.penColor && pen.penStyle == m_settings.penStyle &&
+         pen.penMode == m_settings.penMode &&
+         DrawnPenWidth(pen.penWidth) == DrawnPenWidth(m_settings.penWidth);
+}
+
+KCC_SvgCanvas::Shape* KCC_SvgCanvas::JoinOpenPath(double x, double y) {
+  if (!m_pathOpen || !SamePenAsOpenPath())
+    return nullptr;
+  Shape& path = m_shapes.back();
+  const Point& last = m_points.back();
+  if (last.x != x || last.y != y) {
+    m_points.push_back({std::numeric_limits<double>::quiet_NaN(), 0.0});
+    m_points.push_back({x, y});
+    path.count += 2;
   }
+  return &path;
+}
+
+KCC_SvgCanvas::Shape& KCC_SvgCanvas::StartPath(double x, double y) {
   Shape shape;
   shape.kind = ShapeKind::Path;
-  shape.settings = m_settings;
-  shape.steps.push_back({true, from});
-  shape.steps.push_back({false, point});
-  m_shapes.push_back(std::move(shape));
+  shape.first = m_points.size();
+  shape.count = 1;
+  m_points.push_back({x, y});
+  AddShape(shape);
   m_pathOpen = true;
+  return m_shapes.back();
 }
 
-std::string KCC_SvgCanvas::Number(double value) const {
-  return FormatNumber(value, m_precision);
+void KCC_SvgCanvas::LineTo(const KC2DPoint& point) {
+  const double fromX = m_current.GetX();
+  const double fromY = m_current.GetY();
+  m_current = point;
+  const double toX = point.GetX();
+  const double toY = point.GetY();
+  if (!std::isfinite(fromX) || !std::isfinite(fromY) || !std::isfinite(toX) || !std::isfinite(toY))
+    return;
+  Shape* path = JoinOpenPath(fromX, fromY);
+  if (path == nullptr)
+    path = &StartPath(fromX, fromY);
+  m_points.push_back({toX, toY});
+  path->count += 1;
 }
 
-void KCC_SvgCanvas::WriteShape(std::string& out, const Shape& shape) const {
-  const Settings& s = shape.settings;
+void KCC_SvgCanvas::ArcTo(const KC2DPoint& end, double radius, bool largeArc, bool clockwise) {
+  const double fromX = m_current.GetX();
+  const double fromY = m_current.GetY();
+  m_current = end;
+  const double toX = end.GetX();
+  const double toY = end.GetY();
+  if (!std::isfinite(fromX) || !std::isfinite(fromY) || !std::isfinite(toX) || !std::isfinite(toY) ||
+      !std::isfinite(radius) || (fromX == toX && fromY == toY))
+    return;
+  Shape* path = JoinOpenPath(fromX, fromY);
+  if (path == nullptr)
+    path = &StartPath(fromX, fromY);
+  const double mark = 1.0 + (largeArc ? 1.0 : 0.0) + (clockwise ? 2.0 : 0.0);
+  const double r = std::fabs(radius);
+  m_points.push_back({std::numeric_limits<double>::quiet_NaN(), mark});
+  m_points.push_back({r, r});
+  m_points.push_back({toX, toY});
+  path->count += 3;
+}
+
+void KCC_SvgCanvas::ReservePoints(std::size_t count) {
+  if (count <= std::numeric_limits<std::size_t>::max() / sizeof(Point) - m_points.size())
+    m_points.reserve(m_points.size() + count);
+}
+
+void KCC_SvgCanvas::BeginGroup(const KCString& id, const KCString& label) {
+  m_pathOpen = false;
+  Shape shape;
+  shape.kind = ShapeKind::GroupBegin;
+  shape.first = m_texts.size();
+  m_texts.push_back(id.str());
+  m_texts.push_back(label.str());
+  m_hasLayers = m_hasLayers || !label.str().empty();
+  ++m_openGroups;
+  AddShape(shape);
+}
+
+void KCC_SvgCanvas::EndGroup() {
+  if (m_openGroups == 0)
+    return;
+  m_pathOpen = false;
+  Shape shape;
+  shape.kind = ShapeKind::GroupEnd;
+  --m_openGroups;
+  AddShape(shape);
+}
+
+void KCC_SvgCanvas::SetTitle(const KCString& title) {
+  m_title = title;
+}
+KCString KCC_SvgCanvas::GetTitle() const {
+  return m_title;
+}
+void KCC_SvgCanvas::SetDescription(const KCString& description) {
+  m_description = description;
+}
+KCString KCC_SvgCanvas::GetDescription() const {
+  return m_description;
+}
+
+namespace {
+
+// The shape writers' helpers: ` name="number"` and the pen and brush attributes of one settings snapshot.
+struct AttributeWriter {
+  std::string& out;
+  int precision;
+
+  void Number(double value) const { AppendNumber(out, value, precision); }
+  void Attribute(const char* name, double value) const {
+    out += ' ';
+    out += name;
+    out += "=\"";
+    AppendNumber(out, value, precision);
+    out += '"';
+  }
+  void Box(double x1, double y1, double x2, double y2) const {
+    Attribute("x", x1);
+    Attribute("y", y1);
+    Attribute("width", x2 - x1);
+    Attribute("height", y2 - y1);
+  }
+  void Ellipse(double x1, double y1, double x2, double y2) const {
+    Attribute("cx", (x1 + x2) / 2);
+    Attribute("cy", (y1 + y2) / 2);
+    Attribute("rx", (x2 - x1) / 2);
+    Attribute("ry", (y2 - y1) / 2);
+  }
+};
+
+}  // namespace
+
+void KCC_SvgCanvas::WriteShape(std::string& out, const Shape& shape, std::size_t indent) const {
+  out.append(indent, ' ');
+  const Settings& s = m_styles[shape.style];
   const bool notXor = s.penMode.GetKind() == KCPenMode::Kind::NotXor;
-  const auto attribute = [this](const char* name, double value) {
-    return std::string(" ") + name + "=\"" + Number(value) + "\"";
-  };
+  const AttributeWriter w{out, m_precision};
   // Pen and brush attributes of the shapes that have an outline.
   const auto stroke = [&]() {
     const int width = DrawnPenWidth(s.penWidth);
-    std::string text = ColorAttributes("stroke", notXor ? Complement(s.penColor) : s.penColor);
-    text += attribute("stroke-width", width);
+    AppendColorAttributes(out, "stroke", notXor ? Complement(s.penColor) : s.penColor);
+    w.Attribute("stroke-width", width);
     const double* pattern = nullptr;
     std::size_t count = 0;
     switch (s.penStyle.GetKind()) {
@@ -434,77 +676,152 @@ void KCC_SvgCanvas::WriteShape(std::string& out, const Shape& shape) const {
         break;
     }
     if (pattern) {
-      text += " stroke-dasharray=\"";
-      for (std::size_t k = 0; k < count; ++k)
-        text += (k ? "," : "") + Number(pattern[k] * width);
-      text += "\"";
+      out += " stroke-dasharray=\"";
+      for (std::size_t k = 0; k < count; ++k) {
+        if (k)
+          out += ',';
+        w.Number(pattern[k] * width);
+      }
+      out += '"';
     }
     if (notXor)
-      text += " style=\"mix-blend-mode:difference\"";
-    return text;
+      out += " style=\"mix-blend-mode:difference\"";
   };
   const auto fill = [&]() {
     if (s.brushStyle.GetKind() == KCBrushStyle::Kind::Clear)
-      return std::string(" fill=\"none\"");
-    return ColorAttributes("fill", notXor ? Complement(s.brushColor) : s.brushColor);
-  };
-  const auto box = [&]() {
-    return attribute("x", shape.x1) + attribute("y", shape.y1) + attribute("width", shape.x2 - shape.x1) +
-           attribute("height", shape.y2 - shape.y1);
-  };
-  const auto ellipse = [&]() {
-    return attribute("cx", (shape.x1 + shape.x2) / 2) + attribute("cy", (shape.y1 + shape.y2) / 2) +
-           attribute("rx", (shape.x2 - shape.x1) / 2) + attribute("ry", (shape.y2 - shape.y1) / 2);
+      out += " fill=\"none\"";
+    else
+      AppendColorAttributes(out, "fill", notXor ? Complement(s.brushColor) : s.brushColor);
   };
 
   switch (shape.kind) {
     case ShapeKind::Fill:
-      out += "  <rect" + box() + ColorAttributes("fill", s.brushColor) + "/>\n";
+      out += "<rect";
+      w.Box(shape.x1, shape.y1, shape.x2, shape.y2);
+      AppendColorAttributes(out, "fill", s.brushColor);
+      out += "/>\n";
       break;
     case ShapeKind::Rectangle:
-      out += "  <rect" + box() + fill() + stroke() + "/>\n";
+      out += "<rect";
+      w.Box(shape.x1, shape.y1, shape.x2, shape.y2);
+      fill();
+      stroke();
+      out += "/>\n";
       break;
     case ShapeKind::Frame:
-      out += "  <rect" + box() + " fill=\"none\"" + stroke() + "/>\n";
+      out += "<rect";
+      w.Box(shape.x1, shape.y1, shape.x2, shape.y2);
+      out += " fill=\"none\"";
+      stroke();
+      out += "/>\n";
       break;
     case ShapeKind::Ellipse:
-      out += "  <ellipse" + ellipse() + fill() + stroke() + "/>\n";
+      out += "<ellipse";
+      w.Ellipse(shape.x1, shape.y1, shape.x2, shape.y2);
+      fill();
+      stroke();
+      out += "/>\n";
       break;
     case ShapeKind::EllipseMark:
-      out += "  <ellipse" + ellipse() + " fill=\"none\"" + stroke() + "/>\n";
+      out += "<ellipse";
+      w.Ellipse(shape.x1, shape.y1, shape.x2, shape.y2);
+      out += " fill=\"none\"";
+      stroke();
+      out += "/>\n";
       break;
     case ShapeKind::Polygon: {
-      std::string points;
-      for (const PathStep& step : shape.steps)
-        points += (points.empty() ? "" : " ") + Number(step.point.GetX()) + "," + Number(step.point.GetY());
-      out += "  <polygon points=\"" + points + "\"" + fill() + stroke() + "/>\n";
+      out += "<polygon points=\"";
+      for (std::size_t k = 0; k < shape.count; ++k) {
+        const Point& p = m_points[shape.first + k];
+        if (k)
+          out += ' ';
+        w.Number(p.x);
+        out += ',';
+        w.Number(p.y);
+      }
+      out += '"';
+      fill();
+      stroke();
+      out += "/>\n";
       break;
     }
     case ShapeKind::Path: {
-      std::string data;
-      for (const PathStep& step : shape.steps)
-        data += std::string(data.empty() ? "" : " ") + (step.move ? "M" : "L") + Number(step.point.GetX()) +
-                " " + Number(step.point.GetY());
-      out += "  <path d=\"" + data + "\" fill=\"none\"" + stroke() + "/>\n";
+      out += "<path d=\"";
+      StepWriter steps(out, m_precision);
+      char step = 'M';
+      for (std::size_t k = 0; k < shape.count; ++k) {
+        const Point& p = m_points[shape.first + k];
+        if (std::isnan(p.x)) {
+          if (p.y == 0.0) {
+            step = 'M';
+            continue;
+          }
+          // An arc: "A rx ry rotation large-arc sweep x y"; SVG's sweep 1 turns clockwise on a y-down canvas.
+          const int flags = static_cast<int>(p.y) - 1;
+          const Point& radius = m_points[shape.first + k + 1];
+          const Point& end = m_points[shape.first + k + 2];
+          steps.Text(" A", 2);
+          steps.Number(radius.x);
+          steps.Char(' ');
+          steps.Number(radius.y);
+          steps.Text((flags & 1) != 0 ? " 0 1 " : " 0 0 ", 5);
+          steps.Text((flags & 2) != 0 ? "1 " : "0 ", 2);
+          steps.Number(end.x);
+          steps.Char(' ');
+          steps.Number(end.y);
+          k += 2;
+          step = 'L';
+          continue;
+        }
+        if (k)
+          steps.Char(' ');
+        steps.Char(step);
+        steps.Number(p.x);
+        steps.Char(' ');
+        steps.Number(p.y);
+        step = 'L';
+      }
+      steps.Flush();
+      out += "\" fill=\"none\"";
+      stroke();
+      out += "/>\n";
       break;
     }
     case ShapeKind::Text: {
       const int size = DrawnFontSize(s.fontSize);
-      std::string turn;
-      if (std::isfinite(s.textAngle) && s.textAngle != 0.0) {
-        // SVG turns clockwise for positive angles, since y grows downwards.
-        turn = " transform=\"rotate(" + Number(-s.textAngle) + " " + Number(shape.x1) + " " +
-               Number(shape.y1) + ")\"";
-      }
+      const bool turned = std::isfinite(s.textAngle) && s.textAngle != 0.0;
+      // SVG turns clockwise for positive angles, since y grows downwards.
+      const auto turn = [&]() {
+        if (!turned)
+          return;
+        out += " transform=\"rotate(";
+        w.Number(-s.textAngle);
+        out += ' ';
+        w.Number(shape.x1);
+        out += ' ';
+        w.Number(shape.y1);
+        out += ")\"";
+      };
       if (s.brushStyle.GetKind() != KCBrushStyle::Kind::Clear) {
-        out += "  <rect" + attribute("x", shape.x1) + attribute("y", shape.y1) +
-               attribute("width", shape.textWidth) + attribute("height", shape.textHeight) +
-               ColorAttributes("fill", s.brushColor) + turn + "/>\n";
+        out += "<rect";
+        w.Attribute("x", shape.x1);
+        w.Attribute("y", shape.y1);
+        w.Attribute("width", shape.textWidth);
+        w.Attribute("height", shape.textHeight);
+        AppendColorAttributes(out, "fill", s.brushColor);
+        turn();
+        out += "/>\n";
+        out.append(indent, ' ');
       }
-      out += "  <text" + attribute("x", shape.x1) + attribute("y", shape.y1 + kBaselineFactor * size);
-      if (!s.fontName.str().empty())
-        out += " font-family=\"" + EscapeXml(s.fontName.str()) + "\"";
-      out += attribute("font-size", size);
+      out += "<text";
+      w.Attribute("x", shape.x1);
+      w.Attribute("y", shape.y1 + kBaselineFactor * size);
+      if (!s.fontName.str().empty()) {
+        out += " font-family=\"";
+        AppendEscaped(out, s.fontName.str());
+        out += '"';
+      }
+      w.Attribute("font-size", size);
       if (s.fontStyles.Has(KCFontStyleBold()))
         out += " font-weight=\"bold\"";
       if (s.fontStyles.Has(KCFontStyleItalic()))
@@ -512,26 +829,80 @@ void KCC_SvgCanvas::WriteShape(std::string& out, const Shape& shape) const {
       const bool underline = s.fontStyles.Has(KCFontStyleUnderline());
       const bool strike = s.fontStyles.Has(KCFontStyleStrikeOut());
       if (underline || strike) {
-        out += std::string(" text-decoration=\"") + (underline ? "underline" : "") +
-               (underline && strike ? " " : "") + (strike ? "line-through" : "") + "\"";
+        out += " text-decoration=\"";
+        out += underline ? "underline" : "";
+        out += underline && strike ? " " : "";
+        out += strike ? "line-through" : "";
+        out += '"';
       }
-      out += ColorAttributes("fill", s.fontColor) + turn + " xml:space=\"preserve\">";
+      AppendColorAttributes(out, "fill", s.fontColor);
+      turn();
+      out += " xml:space=\"preserve\">";
       // The characters stand in an attribute-free <tspan>, so that a reader mapping every element with
       // attributes to a record of attributes (KCDocument does) finds no loose text beside them.
-      out += "<tspan>" + EscapeXml(shape.text.str()) + "</tspan></text>\n";
+      out += "<tspan>";
+      AppendEscaped(out, m_texts[shape.first]);
+      out += "</tspan></text>\n";
       break;
     }
+    case ShapeKind::GroupBegin: {
+      out += "<g";
+      const std::string& id = m_texts[shape.first];
+      const std::string& label = m_texts[shape.first + 1];
+      if (!id.empty()) {
+        out += " id=\"";
+        AppendEscaped(out, id);
+        out += '"';
+      }
+      if (!label.empty()) {
+        out += " inkscape:groupmode=\"layer\" inkscape:label=\"";
+        AppendEscaped(out, label);
+        out += '"';
+      }
+      out += ">\n";
+      break;
+    }
+    case ShapeKind::GroupEnd:
+      out += "</g>\n";
+      break;
   }
 }
 
 std::string KCC_SvgCanvas::ToSvg() const {
   const std::string width = std::to_string(m_width);
   const std::string height = std::to_string(m_height);
-  std::string out = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
-  out += "<svg xmlns=\"http://www.w3.org/2000/svg\" version=\"1.1\" width=\"" + width + "\" height=\"" +
-         height + "\" viewBox=\"0 0 " + width + " " + height + "\">\n";
-  for (const Shape& shape : m_shapes)
-    WriteShape(out, shape);
+  std::string out;
+  // About 16 bytes per point ("L123.45 678.9 "), 18 to be safe, and a hundred per other shape: one
+  // allocation for most pictures.
+  out.reserve(256 + m_points.size() * 18 + m_shapes.size() * 100);
+  out += "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
+  out += "<svg xmlns=\"http://www.w3.org/2000/svg\"";
+  if (m_hasLayers)
+    out += " xmlns:inkscape=\"http://www.inkscape.org/namespaces/inkscape\"";
+  out += " version=\"1.1\" width=\"" + width + "\" height=\"" + height + "\" viewBox=\"0 0 " + width + " " +
+         height + "\">\n";
+  if (!m_title.str().empty()) {
+    out += "  <title>";
+    AppendEscaped(out, m_title.str(), true);
+    out += "</title>\n";
+  }
+  if (!m_description.str().empty()) {
+    out += "  <desc>";
+    AppendEscaped(out, m_description.str(), true);
+    out += "</desc>\n";
+  }
+  std::size_t depth = 0;  // groups open while writing
+  for (const Shape& shape : m_shapes) {
+    if (shape.kind == ShapeKind::GroupEnd)
+      --depth;
+    WriteShape(out, shape, 2 + 2 * depth);
+    if (shape.kind == ShapeKind::GroupBegin)
+      ++depth;
+  }
+  for (; depth > 0; --depth) {
+    out.append(2 * depth, ' ');
+    out += "</g>\n";
+  }
   out += "</svg>\n";
   return out;
 }

@@ -3,10 +3,12 @@
 // precision and locale independence, text measuring, and saving.
 #include <gtest/gtest.h>
 
+#include <charconv>
 #include <clocale>
 #include <functional>
 #include <limits>
 #include <locale>
+#include <random>
 #include <stdexcept>
 #include <string>
 
@@ -547,6 +549,192 @@ TEST(KccSvgCanvas, SaveToFileInAMissingFolderFails) {
   TempDir dir;
   const KCC_SvgCanvas canvas(1, 1);
   EXPECT_FALSE(canvas.SaveToFile(dir.Path("missing/out.svg")));
+}
+
+// ---- arcs
+
+TEST(KccSvgCanvas, ArcToJoinsTheOpenPathAsAnArcCommand) {
+  KCC_SvgCanvas canvas(80, 80);
+  canvas.MoveTo(KC2DPoint(10, 10));
+  canvas.LineTo(KC2DPoint(50, 10));
+  canvas.ArcTo(KC2DPoint(50, 50), 20, false, true);
+  canvas.LineTo(KC2DPoint(10, 50));
+  EXPECT_EQ(Elements(canvas),
+            "  <path d=\"M10 10 L50 10 A20 20 0 0 1 50 50 L10 50\" fill=\"none\" stroke=\"#000000\" "
+            "stroke-width=\"1\"/>\n");
+}
+
+TEST(KccSvgCanvas, ArcToWritesTheLargeArcAndCounterClockwiseFlags) {
+  KCC_SvgCanvas canvas(80, 80);
+  canvas.MoveTo(KC2DPoint(10, 10));
+  canvas.ArcTo(KC2DPoint(20, 10), -5.5, true, false);
+  EXPECT_EQ(
+      Elements(canvas),
+      "  <path d=\"M10 10 A5.5 5.5 0 1 0 20 10\" fill=\"none\" stroke=\"#000000\" stroke-width=\"1\"/>\n");
+}
+
+TEST(KccSvgCanvas, ArcToTheCurrentPointDrawsNothing) {
+  KCC_SvgCanvas canvas(80, 80);
+  canvas.MoveTo(KC2DPoint(10, 10));
+  canvas.ArcTo(KC2DPoint(10, 10), 5, false, true);
+  EXPECT_EQ(Elements(canvas), "");
+}
+
+TEST(KccSvgCanvas, ArcToWithANonFiniteRadiusDrawsNothingButMovesTheCurrentPoint) {
+  KCC_SvgCanvas canvas(80, 80);
+  canvas.ArcTo(KC2DPoint(10, 10), std::numeric_limits<double>::infinity(), false, true);
+  const KC2DPoint current = canvas.GetCurrentPoint();
+  EXPECT_EQ(Elements(canvas), "");
+  EXPECT_EQ(current, KC2DPoint(10, 10));
+}
+
+TEST(KccSvgCanvas, ArcToAfterAMoveStartsASubPath) {
+  KCC_SvgCanvas canvas(80, 80);
+  canvas.LineTo(KC2DPoint(10, 0));
+  canvas.MoveTo(KC2DPoint(30, 30));
+  canvas.ArcTo(KC2DPoint(40, 30), 5, false, true);
+  EXPECT_EQ(Elements(canvas),
+            "  <path d=\"M0 0 L10 0 M30 30 A5 5 0 0 1 40 30\" fill=\"none\" stroke=\"#000000\" "
+            "stroke-width=\"1\"/>\n");
+}
+
+TEST(KccSvgCanvas, ReservePointsLeavesThePictureUnchanged) {
+  KCC_SvgCanvas plain(40, 30);
+  KCC_SvgCanvas reserved(40, 30);
+  reserved.ReservePoints(1000);
+  reserved.ReservePoints(std::numeric_limits<std::size_t>::max());  // too large to hold: ignored
+  for (KCC_SvgCanvas* canvas : {&plain, &reserved}) {
+    canvas->LineTo(KC2DPoint(10, 0));
+    canvas->ArcTo(KC2DPoint(10, 10), 5, false, true);
+  }
+  EXPECT_EQ(reserved.ToSvg(), plain.ToSvg());
+}
+
+// ---- groups, title and description
+
+TEST(KccSvgCanvas, GroupsWrapTheirShapesAndNest) {
+  KCC_SvgCanvas canvas(40, 30);
+  canvas.BeginGroup("outer", "");
+  canvas.LineTo(KC2DPoint(10, 0));
+  canvas.BeginGroup("inner", "");
+  canvas.FrameRectangle(KC2DRectangle(1, 1, 2, 2));
+  canvas.EndGroup();
+  canvas.EndGroup();
+  EXPECT_EQ(Elements(canvas),
+            "  <g id=\"outer\">\n"
+            "    <path d=\"M0 0 L10 0\" fill=\"none\" stroke=\"#000000\" stroke-width=\"1\"/>\n"
+            "    <g id=\"inner\">\n"
+            "      <rect x=\"1\" y=\"1\" width=\"1\" height=\"1\" fill=\"none\" stroke=\"#000000\" "
+            "stroke-width=\"1\"/>\n"
+            "    </g>\n"
+            "  </g>\n");
+}
+
+TEST(KccSvgCanvas, GroupWithALabelIsALayerAndDeclaresItsNamespace) {
+  KCC_SvgCanvas canvas(40, 30);
+  canvas.BeginGroup("t1", "T1 <feed>");
+  canvas.EndGroup();
+  const std::string svg = canvas.ToSvg();
+  EXPECT_NE(svg.find("<svg xmlns=\"http://www.w3.org/2000/svg\" "
+                     "xmlns:inkscape=\"http://www.inkscape.org/namespaces/inkscape\" version=\"1.1\""),
+            std::string::npos);
+  EXPECT_EQ(Elements(canvas),
+            "  <g id=\"t1\" inkscape:groupmode=\"layer\" inkscape:label=\"T1 &lt;feed&gt;\">\n"
+            "  </g>\n");
+}
+
+TEST(KccSvgCanvas, GroupWithoutLabelDeclaresNoLayerNamespace) {
+  KCC_SvgCanvas canvas(40, 30);
+  canvas.BeginGroup("", "");
+  canvas.EndGroup();
+  EXPECT_EQ(canvas.ToSvg().find("inkscape"), std::string::npos);
+  EXPECT_EQ(Elements(canvas), "  <g>\n  </g>\n");
+}
+
+TEST(KccSvgCanvas, EndGroupWithoutAnOpenGroupDoesNothing) {
+  KCC_SvgCanvas canvas(40, 30);
+  canvas.EndGroup();
+  EXPECT_EQ(canvas.GetOpenGroupCount(), 0);
+  EXPECT_EQ(Elements(canvas), "");
+}
+
+TEST(KccSvgCanvas, ToSvgClosesTheGroupsLeftOpen) {
+  KCC_SvgCanvas canvas(40, 30);
+  canvas.BeginGroup("a", "");
+  canvas.BeginGroup("b", "");
+  EXPECT_EQ(canvas.GetOpenGroupCount(), 2);
+  EXPECT_EQ(Elements(canvas), "  <g id=\"a\">\n    <g id=\"b\">\n    </g>\n  </g>\n");
+}
+
+TEST(KccSvgCanvas, BeginGroupEndsTheOpenPath) {
+  KCC_SvgCanvas canvas(40, 30);
+  canvas.LineTo(KC2DPoint(10, 0));
+  canvas.BeginGroup("g", "");
+  canvas.LineTo(KC2DPoint(20, 0));
+  EXPECT_EQ(Elements(canvas),
+            "  <path d=\"M0 0 L10 0\" fill=\"none\" stroke=\"#000000\" stroke-width=\"1\"/>\n"
+            "  <g id=\"g\">\n"
+            "    <path d=\"M10 0 L20 0\" fill=\"none\" stroke=\"#000000\" stroke-width=\"1\"/>\n"
+            "  </g>\n");
+}
+
+TEST(KccSvgCanvas, TitleAndDescriptionComeFirstEscapedWithTheirLineBreaks) {
+  KCC_SvgCanvas canvas(40, 30);
+  canvas.FillCanvas();
+  canvas.SetTitle("part.nc - O1000 <A&B>");
+  canvas.SetDescription("File: part.nc\nUnits: mm\r");
+  EXPECT_EQ(canvas.GetTitle(), KCString("part.nc - O1000 <A&B>"));
+  EXPECT_EQ(Elements(canvas),
+            "  <title>part.nc - O1000 &lt;A&amp;B&gt;</title>\n"
+            "  <desc>File: part.nc\nUnits: mm&#13;</desc>\n"
+            "  <rect x=\"0\" y=\"0\" width=\"40\" height=\"30\" fill=\"#ffffff\"/>\n");
+}
+
+TEST(KccSvgCanvas, EmptyTitleAndDescriptionWriteNoElements) {
+  KCC_SvgCanvas canvas(40, 30);
+  canvas.SetTitle("x");
+  canvas.SetTitle("");
+  canvas.SetDescription("");
+  EXPECT_EQ(Elements(canvas), "");
+}
+
+// ---- numbers
+
+// What std::to_chars writes in fixed notation with `decimals` decimals, trailing zeros and a lone point
+// dropped and "-0" as "0": the text the canvas must write for every value.
+std::string ToCharsText(double value, int decimals) {
+  char buffer[400];
+  const auto result =
+      std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed, decimals);
+  std::string text(buffer, result.ptr);
+  if (text.find('.') != std::string::npos) {
+    while (text.back() == '0')
+      text.pop_back();
+    if (text.back() == '.')
+      text.pop_back();
+  }
+  return text == "-0" ? "0" : text;
+}
+
+TEST(KccSvgCanvas, NumbersAreWhatToCharsWritesForEveryPrecision) {
+  // Random pixel-sized values, values on and next to ties, and values beyond the integer path.
+  std::vector<double> values = {0.25,   0.125, 2.5,     -2.5,  0.05,     -0.05,  1.0 / 3.0, 999999.95,
+                                0.0005, 1e12,  -3.7e15, 1e300, 4.999999, 0.4999, -0.0,      123456.785};
+  std::mt19937_64 random(7);
+  std::uniform_real_distribution<double> pixels(-20000.0, 20000.0);
+  for (int i = 0; i < 2000; ++i)
+    values.push_back(pixels(random));
+  for (int precision = 0; precision <= 10; ++precision) {
+    KCC_SvgCanvas canvas(10, 10);
+    canvas.SetPrecision(precision);
+    std::string expected = "  <path d=\"M0 0";
+    for (const double v : values) {
+      canvas.LineTo(KC2DPoint(v, 1.5));
+      expected += " L" + ToCharsText(v, precision) + " " + ToCharsText(1.5, precision);
+    }
+    expected += "\" fill=\"none\" stroke=\"#000000\" stroke-width=\"1\"/>\n";
+    EXPECT_EQ(Elements(canvas), expected) << "precision " << precision;
+  }
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 //   canvas.MoveTo(KC2DPoint(10, 10));
 //   canvas.LineTo(KC2DPoint(100, 10));               // one <path d="M10 10 L100 10" .../>
 //   canvas.LineTo(KC2DPoint(100, 90));               // joins it: d="M10 10 L100 10 L100 90"
+//   canvas.ArcTo(KC2DPoint(10, 90), 45, false, true); // and an arc: " A45 45 0 0 1 10 90"
 //   bool saved = canvas.SaveToFile("drawing.svg");
 //
 // Rules worth knowing:
@@ -46,9 +47,18 @@
 // - Text is written as UTF-8; a byte that does not start a valid UTF-8 sequence is taken as the Latin-1
 //   character of that value, and control characters XML forbids become U+FFFD, so the file stays
 //   well-formed.
+// - BeginGroup and EndGroup put the shapes drawn between them into a <g> element; groups nest, and ToSvg
+//   closes the groups still open. A group with a label is marked as a layer for vector editors (Inkscape's
+//   groupmode and label attributes; the picture then declares that namespace). SetTitle and SetDescription
+//   give the picture's <title> and <desc>, written in that order before the first shape.
+// - The canvas keeps shapes compactly: path points are 16 bytes each in one array for the whole canvas, and
+//   the settings are stored once per change rather than once per shape, so a picture of a million lines
+//   takes some 16 MB besides its text.
 // See docs/behaviours.md#svg-canvas.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -76,6 +86,35 @@ class NCAPPKIT_EXPORT KCC_SvgCanvas : public KCCanvas {
   void SetPrecision(int decimals) noexcept;
   /// The current point: where the next LineTo starts.
   KC2DPoint GetCurrentPoint() const noexcept { return m_current; }
+
+  /// Add a circular arc of `radius` from the current point to `end`, turning clockwise on the canvas (pixel y
+  /// down) when `clockwise`, the larger of the two possible arcs when `largeArc` (SVG's arc command), and
+  /// make `end` current. It joins the open path as LineTo does. As in SVG a radius too small to reach `end`
+  /// is enlarged to half the chord, and a radius of 0 draws a line; nothing is drawn when either point or the
+  /// radius is not finite, or when `end` is the current point (split a full circle in two).
+  void ArcTo(const KC2DPoint& end, double radius, bool largeArc, bool clockwise);
+
+  /// Make room for `count` more path and polygon points (a line takes one, an arc three), so that a picture
+  /// of known size is recorded without the point array growing step by step. A count too large to hold is
+  /// ignored; std::bad_alloc when memory runs out.
+  void ReservePoints(std::size_t count);
+
+  /// Start a group: the shapes drawn until the matching EndGroup become children of one <g> element with
+  /// the id `id` (none when empty), marked as a layer named `label` for vector editors when `label` is not
+  /// empty. Ends an open path; never fails.
+  void BeginGroup(const KCString& id, const KCString& label);
+  /// End the innermost open group; nothing when none is open.
+  void EndGroup();
+  /// The number of groups begun and not yet ended.
+  int GetOpenGroupCount() const noexcept { return m_openGroups; }
+  /// Set the text of the picture's <title> element (none when empty); never fails.
+  void SetTitle(const KCString& title);
+  /// The title as set (empty by default).
+  KCString GetTitle() const;
+  /// Set the text of the picture's <desc> element (none when empty); line breaks are kept; never fails.
+  void SetDescription(const KCString& description);
+  /// The description as set (empty by default).
+  KCString GetDescription() const;
 
   /// The image as SVG 1.1 text (UTF-8, LF line ends), the shapes in call order; never fails.
   std::string ToSvg() const;
@@ -155,7 +194,8 @@ class NCAPPKIT_EXPORT KCC_SvgCanvas : public KCCanvas {
   void LineTo(const KC2DPoint& point) override;
 
  private:
-  // Everything that decides how a shape looks, copied into each shape when it is drawn.
+  // Everything that decides how a shape looks. A shape refers to the snapshot in m_styles that was current
+  // when it was drawn; a setter only marks the settings as changed, and the next shape takes a new snapshot.
   struct Settings {
     KCColor penColor = KCColor(0, 0, 0);
     KCColor brushColor = KCColor(255, 255, 255);
@@ -169,31 +209,60 @@ class NCAPPKIT_EXPORT KCC_SvgCanvas : public KCCanvas {
     double textAngle = 0.0;
     int penWidth = 1;
   };
-  enum class ShapeKind { Fill, Rectangle, Frame, Ellipse, EllipseMark, Text, Polygon, Path };
-  // One step of a path: a move (starting a sub-path) or a line to `point`.
-  struct PathStep {
-    bool move = false;
-    KC2DPoint point;
+  enum class ShapeKind : std::uint8_t {
+    Fill,
+    Rectangle,
+    Frame,
+    Ellipse,
+    EllipseMark,
+    Text,
+    Polygon,
+    Path,
+    GroupBegin,
+    GroupEnd
+  };
+  // A point of a polygon or a path. In a path a point whose x is NaN is a mark (drawn points are always
+  // finite, so it cannot be mistaken for one): y == 0 marks a move, the next point starting a sub-path;
+  // y == 1 + largeArc + 2 * clockwise marks an arc, the next point holding the radius twice and the one
+  // after it the arc's end.
+  struct Point {
+    double x;
+    double y;
   };
   struct Shape {
     ShapeKind kind = ShapeKind::Fill;
-    Settings settings;
+    std::uint32_t style = 0;                        // index into m_styles
     double x1 = 0.0, y1 = 0.0, x2 = 0.0, y2 = 0.0;  // box corners, smallest first
-    KCString text;
+    std::size_t first = 0;  // Polygon, Path: first point in m_points; Text, GroupBegin: text in m_texts
+    std::size_t count = 0;  // Polygon, Path: number of points in m_points
     int textWidth = 0;
     int textHeight = 0;
-    std::vector<PathStep> steps;  // polygon points or path steps
   };
 
+  std::uint32_t CurrentStyle();
+  void AddShape(Shape shape);
   void AddBox(ShapeKind kind, const KC2DRectangle& box);
-  void WriteShape(std::string& out, const Shape& shape) const;
-  std::string Number(double value) const;
+  bool SamePenAsOpenPath() const;
+  // The open path, extended to start at (x, y), when a step may join it; nullptr otherwise.
+  Shape* JoinOpenPath(double x, double y);
+  // Start a new path at (x, y); returns it.
+  Shape& StartPath(double x, double y);
+  // One shape's element lines, each indented by `indent` spaces.
+  void WriteShape(std::string& out, const Shape& shape, std::size_t indent) const;
 
   int m_width = 0;
   int m_height = 0;
   int m_precision;  // set by the constructor
   Settings m_settings;
+  bool m_settingsChanged = true;  // m_settings differs from the last snapshot (or there is none)
   KC2DPoint m_current;
   bool m_pathOpen = false;  // the last shape is a path that a LineTo may extend
+  int m_openGroups = 0;
+  bool m_hasLayers = false;  // a group with a label was begun
+  KCString m_title;
+  KCString m_description;
+  std::vector<Settings> m_styles;
   std::vector<Shape> m_shapes;
+  std::vector<Point> m_points;
+  std::vector<std::string> m_texts;  // texts of Text shapes; id and label of groups (two entries)
 };

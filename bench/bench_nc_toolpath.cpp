@@ -24,75 +24,15 @@
 #include <string>
 #include <vector>
 
+#include "bench_nc_program_file.h"
 #include "bench_sampling.h"
 #include "ncappkit/nc/KCC_NcFile.h"
 #include "ncappkit/nc/KCC_NcToolPath.h"
 
 namespace {
 
-constexpr int kFileLines = 999000;
-
-struct ProgramFile {
-  std::filesystem::path directory;
-  std::string path;
-  std::uintmax_t bytes = 0;
-
-  ProgramFile() {
-    directory = std::filesystem::temp_directory_path() /
-                ("ncappkit-bench-toolpath-" + std::to_string(std::random_device{}()));
-    std::filesystem::create_directories(directory);
-    path = (directory / "big.nc").string();
-    Write();
-    bytes = std::filesystem::file_size(path);
-  }
-  ~ProgramFile() {
-    std::error_code ec;
-    std::filesystem::remove_all(directory, ec);
-  }
-  ProgramFile(const ProgramFile&) = delete;
-  ProgramFile& operator=(const ProgramFile&) = delete;
-
- private:
-  void Write() {
-    std::ofstream out(path, std::ios::binary);
-    std::mt19937 random(2026);
-    std::uniform_int_distribution<int> coord(-99999, 99999);
-    std::uniform_int_distribution<int> kind(0, 99);
-    auto num = [](int v) {
-      std::string s = std::to_string(v / 1000) + "." + std::to_string(std::abs(v % 1000));
-      return (v < 0 && v / 1000 == 0 ? "-" : "") + s;
-    };
-    out << "%\nO1000 (BIG PART)\nN10 G90 G17 G21 T1 M6\n";
-    int written = 4;
-    for (int n = 2; written < kFileLines - 2; ++n, ++written) {
-      const int k = kind(random);
-      const std::string block = "N" + std::to_string(n * 10);
-      std::string line;
-      if (k < 50) {
-        line = block + " G01 X" + num(coord(random)) + " Y" + num(coord(random)) + (k < 5 ? " F1200" : "");
-      } else if (k < 62) {
-        line = block + " G01 X" + num(coord(random)) + " Y" + num(coord(random)) + " Z" +
-               num(coord(random) / 10);
-      } else if (k < 67) {
-        line = block + " G00 X" + num(coord(random)) + " Y" + num(coord(random));
-      } else if (k < 75) {
-        // Radius 200: every chord of the +-100 square is shorter than 2R.
-        line = block + (k < 71 ? " G02" : " G03") + " X" + num(coord(random)) + " Y" + num(coord(random)) +
-               " R200.";
-      } else if (k < 80) {
-        line = block + " G03 I" + num(coord(random) / 10) + " J" + num(coord(random) / 10);  // a full circle
-      } else if (k < 88) {
-        line = "(CONTOUR " + std::to_string(n) + " FINISH)";
-      } else if (k < 94) {
-        line = "#" + std::to_string(100 + k) + " = " + num(coord(random)) + " (P)";
-      } else {
-        line = block + " M08";
-      }
-      out << line << '\n';
-    }
-    out << "M30\n%\n";
-  }
-};
+using bench_nc::kProgramFileLines;
+using bench_nc::ProgramFile;
 
 std::unique_ptr<ProgramFile> g_file;
 std::unique_ptr<KCC_NcFile> g_loaded;
@@ -144,8 +84,8 @@ BENCHMARK(BM_KccNcToolPathInterpret)
 void PrintSummary() {
   if (g_load.wall.empty() || g_interpret.wall.empty())
     return;
-  std::printf("\nfile: %d lines, %ju bytes, one program; %zu load and %zu interpret samples\n", kFileLines,
-              g_file->bytes, g_load.wall.size(), g_interpret.wall.size());
+  std::printf("\nfile: %d lines, %ju bytes, one program; %zu load and %zu interpret samples\n",
+              kProgramFileLines, g_file->bytes, g_load.wall.size(), g_interpret.wall.size());
   std::printf("%-36s %10s %10s %10s %10s\n", "", "wall min", "wall med", "CPU min", "CPU med");
   auto row = [](const char* name, const Samples& s) {
     std::printf("%-36s %7.1f ms %7.1f ms %7.1f ms %7.1f ms\n", name, Min(s.wall) * 1e3, Median(s.wall) * 1e3,

@@ -169,22 +169,68 @@ TEST_F(NckitPlot, BoltCircleLengthsAreHandComputed) {
 
 TEST_F(NckitPlot, LatheProfileInTheXzViewKeepsItsArcAsAnArc) {
   // The quarter circle G3 from Z0 X10 to Z-10 X20 about Z-10 X10: seen with Z right and X up it is drawn
-  // as an arc (many points), in the XY view as the line its projection is (X 10 to 20 at Y 0).
+  // as one SVG arc command, in the XY view as the line its projection is (X 10 to 20 at Y 0).
   const std::string file = CaseFolder("lathe-profile-xz") + "/program.nc";
   const ChildResult xz = Run({"plot", file, "--view", "xz"});
   const ChildResult xy = Run({"plot", file});
   ASSERT_EQ(xz.exitCode, 0) << xz.err;
   ASSERT_EQ(xy.exitCode, 0) << xy.err;
-  auto arcPoints = [](const std::string& svg) {
+  auto count = [](const std::string& svg, const std::string& command) {
     const std::size_t group = svg.find("<g id=\"t1-arc\"");
     const std::size_t end = svg.find("</g>", group);
-    std::size_t points = 0;
-    for (std::size_t at = svg.find(" L", group); at < end; at = svg.find(" L", at + 1))
-      ++points;
-    return points;
+    std::size_t found = 0;
+    for (std::size_t at = svg.find(command, group); at < end; at = svg.find(command, at + 1))
+      ++found;
+    return found;
   };
-  EXPECT_GT(arcPoints(xz.out), 10u);
-  EXPECT_EQ(arcPoints(xy.out), 1u);
+  EXPECT_EQ(count(xz.out, " A"), 1u);
+  EXPECT_EQ(count(xz.out, " L"), 0u);
+  EXPECT_EQ(count(xy.out, " A"), 0u);
+  EXPECT_EQ(count(xy.out, " L"), 1u);
+}
+
+TEST_F(NckitPlot, RunOfTinyMovesIsMergedButReachesItsEnd) {
+  // 2000 moves of 0.01 mm along X and one move of 20 mm back along Y: 20 mm span about 640 pixels, so each
+  // tiny move is a third of a pixel and two or three of them make one line of at least half a pixel.
+  std::string program = "%\nO0010 (TINY)\nG90 G1 X0 Y0 F500\nG91\n";
+  for (int i = 0; i < 2000; ++i)
+    program += "X0.01\n";
+  program += "Y20\nM30\n%\n";
+  TempDir dir;
+  const ChildResult r = Run({"plot", dir.WriteFile("tiny.nc", program)});
+  ASSERT_EQ(r.exitCode, 0) << r.err;
+  const std::size_t group = r.out.find("<g id=\"t0-feed\"");
+  ASSERT_NE(group, std::string::npos);
+  const std::string feed = r.out.substr(group, r.out.find("</g>", group) - group);
+  std::size_t lines = 0;
+  for (std::size_t at = feed.find(" L"); at != std::string::npos; at = feed.find(" L", at + 1))
+    ++lines;
+  EXPECT_GT(lines, 600u);   // nothing is dropped beyond half a pixel...
+  EXPECT_LT(lines, 1300u);  // ...but 2001 moves do not make 2001 lines
+  // The corner at X20 Y0 is drawn: the tiny run ends exactly where the move along Y starts (whose first
+  // half ends at its direction arrow).
+  EXPECT_NE(feed.find(" L670 670 L670 350\""), std::string::npos) << feed.substr(feed.size() - 300);
+}
+
+TEST_F(NckitPlot, AlternatingKindsStillMakeOneGroupPerLayer) {
+  // Feed, rapid, feed, rapid ...: each layer is one group, not one per run.
+  std::string program = "%\nO0011 (ZIGZAG)\nG90\n";
+  for (int i = 0; i < 10; ++i)
+    program +=
+        "G1 X" + std::to_string(i * 10 + 5) + " Y10 F800\nG0 X" + std::to_string(i * 10 + 10) + " Y0\n";
+  program += "M30\n%\n";
+  TempDir dir;
+  const ChildResult r = Run({"plot", dir.WriteFile("zigzag.nc", program)});
+  ASSERT_EQ(r.exitCode, 0) << r.err;
+  auto count = [&r](const std::string& text) {
+    std::size_t found = 0;
+    for (std::size_t at = r.out.find(text); at != std::string::npos; at = r.out.find(text, at + 1))
+      ++found;
+    return found;
+  };
+  EXPECT_EQ(count("<g id=\"t0-feed\""), 1u);
+  EXPECT_EQ(count("<g id=\"t0-rapid\""), 1u);
+  EXPECT_LT(r.out.find("<g id=\"t0-rapid\""), r.out.find("<g id=\"t0-feed\""));
 }
 
 // ---- the picture's structure

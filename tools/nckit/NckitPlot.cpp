@@ -72,6 +72,15 @@ constexpr int kSvgDecimals = 1;
 constexpr int kLegendDecimals = 3;
 // Lines shorter than this on the canvas (a plunge seen from above) are not drawn, pixels.
 constexpr double kMinDrawnPixels = 1e-3;
+// Arcs are drawn as polylines that stay within this distance of the true arc, pixels: a quarter pixel is
+// below what anti-aliasing shows, and a 40-pixel circle takes 20 lines instead of the 100 a fixed angle
+// step gives.
+constexpr double kArcTolerancePixels = 0.25;
+// The most lines one arc is drawn with (reached only by arcs of some 10^6 pixels' radius).
+constexpr int kMaxArcSteps = 4096;
+// Points of a layer's path closer than this to the last point drawn are merged into the next line, pixels:
+// a run of tiny moves (a finely tessellated CAM contour) becomes one line per half pixel.
+constexpr double kMergePixels = 0.5;
 constexpr double kPi = 3.14159265358979323846;
 const char kFontName[] = "Arial";
 
@@ -151,38 +160,6 @@ std::string ToolLabel(std::uint32_t tool) {
   return tool == 0 ? std::string("no tool") : "T" + std::to_string(tool);
 }
 
-// `text` as XML character data or attribute text: markup characters escaped, a byte that starts no UTF-8
-// character taken as the Latin-1 character of that value, control characters XML forbids as U+FFFD.
-std::string XmlText(const std::string& text) {
-  std::string out;
-  out.reserve(text.size());
-  for (std::size_t i = 0; i < text.size();) {
-    const auto c = static_cast<unsigned char>(text[i]);
-    unsigned codePoint = 0;
-    const std::size_t length = Utf8Sequence(text, i, codePoint);
-    if (length == 0) {
-      out += static_cast<char>(0xC0 | (c >> 6));
-      out += static_cast<char>(0x80 | (c & 0x3F));
-      ++i;
-      continue;
-    }
-    if (c == '&')
-      out += "&amp;";
-    else if (c == '<')
-      out += "&lt;";
-    else if (c == '>')
-      out += "&gt;";
-    else if (c == '"')
-      out += "&quot;";
-    else if (c < 0x20 && c != '\n' && c != '\t')
-      out += "\xEF\xBF\xBD";
-    else
-      out.append(text, i, length);
-    i += length;
-  }
-  return out;
-}
-
 // Seconds as h:mm:ss, rounded to the second.
 std::string DurationText(double seconds) {
   const double rounded = std::floor(seconds + 0.5);
@@ -202,18 +179,6 @@ std::string ProgramText(const KCC_NcFileProgram& program) {
   return ref.empty() ? name : name + " " + ref;
 }
 
-// One group of the picture: a canvas of its own with a drawing API on the shared view port.
-struct Layer {
-  Layer(std::string id_, std::string label_, int width, int height, KCC_ViewPortDraw& port)
-      : id(std::move(id_)), label(std::move(label_)), canvas(width, height), draw(port, canvas) {
-    canvas.SetPrecision(kSvgDecimals);
-  }
-  std::string id;
-  std::string label;
-  KCC_SvgCanvas canvas;
-  KCC_Draw draw;
-};
-
 // A line of the legend, with an optional line sample in front of its text.
 struct LegendLine {
   std::string text;
@@ -228,9 +193,12 @@ class Plotter {
         m_programs(programs),
         m_options(options),
         m_axes(AxesOf(options.view)),
-        m_summary(SummarizePlot(programs)) {
-    m_width = std::clamp(options.width, kPlotMinSide, kPlotMaxSide);
-    m_height = std::clamp(options.height, kPlotMinSide, kPlotMaxSide);
+        m_summary(SummarizePlot(programs)),
+        m_width(std::clamp(options.width, kPlotMinSide, kPlotMaxSide)),
+        m_height(std::clamp(options.height, kPlotMinSide, kPlotMaxSide)),
+        m_canvas(m_width, m_height),
+        m_draw(m_port, m_canvas) {
+    m_canvas.SetPrecision(kSvgDecimals);
     m_legend = m_width >= kPlotMinWidthForLegend;
     m_arrows =
         m_summary.rapids + m_summary.feeds + m_summary.arcs + m_summary.holes <= kPlotMaxSegmentsWithArrows;
@@ -256,9 +224,10 @@ class Plotter {
         m_port.SetRefCornorBottomLeft();
         break;
     }
-    Layer& background = NewLayer("background", "background");
+    m_canvas.BeginGroup("background", "background");
     KCColor paper = ToColor(kBackgroundColour);
-    background.draw.PaintBackGround(paper);
+    m_draw.PaintBackGround(paper);
+    m_canvas.EndGroup();
 
     m_mapped = m_summary.hasExtents && FitView();
     if (m_mapped) {
@@ -268,15 +237,15 @@ class Plotter {
     BuildLegendLines();
     if (m_legend)
       DrawLegend();
-    return Assemble();
+    m_canvas.SetTitle(Title());
+    std::string description;
+    for (std::size_t i = 0; i < m_lines.size(); ++i)
+      description += (i == 0 ? "" : "\n") + m_lines[i].text;
+    m_canvas.SetDescription(description);
+    return m_canvas.ToSvg();
   }
 
  private:
-  Layer& NewLayer(const std::string& id, const std::string& label) {
-    m_layers.push_back(std::make_unique<Layer>(id, label, m_width, m_height, m_port));
-    return *m_layers.back();
-  }
-
   // The extents in the view's axes, widened where too small, fitted into the plot area.
   bool FitView() {
     const KCC_NcToolPath::Extents& e = m_summary.extents;
@@ -312,9 +281,8 @@ class Plotter {
     m_port.World2ScreenPoint(point[m_axes.h], point[m_axes.v], px, py);
   }
   void Map(const float point[3], double& px, double& py) const {
-    const double p[3] = {static_cast<double>(point[0]), static_cast<double>(point[1]),
-                         static_cast<double>(point[2])};
-    Map(p, px, py);
+    m_port.World2ScreenPoint(static_cast<double>(point[m_axes.h]), static_cast<double>(point[m_axes.v]), px,
+                             py);
   }
 
   KCC_LineAttributes PenOf(std::uint32_t tool, int kind) const {
@@ -323,52 +291,156 @@ class Plotter {
     return KCC_LineAttributes(ToColor(m_toolColour.at(tool)), KCPenStyleSolid(), kFeedPenWidth);
   }
 
-  Layer& LayerOf(std::uint32_t tool, int kind) {
-    const std::pair<std::uint32_t, int> key(tool, LayerKind(kind));
-    if (m_lastLayer && key == m_lastKey)
-      return *m_lastLayer;
-    auto found = m_segmentLayers.find(key);
-    if (found == m_segmentLayers.end()) {
-      const std::string id = "t" + std::to_string(tool) + "-" + KindLabel(key.second);
-      auto layer = std::make_unique<Layer>(id, ToolLabel(tool) + " " + KindLabel(key.second), m_width,
-                                           m_height, m_port);
-      // The layer's canvas keeps its pen, so plain lines and arcs need no attributes per call.
-      const KCC_LineAttributes pen = PenOf(tool, key.second);
-      layer->canvas.SetPenColor(pen.GetLineColor());
-      layer->canvas.SetPenStyle(pen.GetLineStyle());
-      layer->canvas.SetPenWidth(pen.GetLineWidth());
-      found = m_segmentLayers.emplace(key, std::move(layer)).first;
+  // --- the path of the layer being drawn ---------------------------------------------------------------
+  // Lines go through the drawing API as they come, joined into one path where one starts at the end of the
+  // last. A point closer than kMergePixels to the last point drawn is held back and drawn only when the path
+  // leaves it or breaks off, so runs of sub-pixel moves cost one line per half pixel.
+
+  // The point the layer's path stands at: the held-back point, else the last one drawn.
+  bool AtPathEnd(double x, double y) const {
+    return m_penDown && (m_held ? (x == m_heldX && y == m_heldY) : (x == m_lastX && y == m_lastY));
+  }
+  // Continue the path at (x, y), or start a new one there.
+  void PathStart(double x, double y) {
+    if (AtPathEnd(x, y))
+      return;
+    PathFlush();
+    m_penDown = true;
+    m_lastX = x;
+    m_lastY = y;
+  }
+  void PathTo(double x, double y) {
+    const double dx = x - m_lastX;
+    const double dy = y - m_lastY;
+    if (dx * dx + dy * dy < kMergePixels * kMergePixels) {
+      m_held = true;
+      m_heldX = x;
+      m_heldY = y;
+      return;
     }
-    m_lastKey = key;
-    m_lastLayer = found->second.get();
-    return *m_lastLayer;
+    EnsureGroup();
+    m_draw.DrawLine(m_lastX, m_lastY, x, y);
+    m_lastX = x;
+    m_lastY = y;
+    m_held = false;
+  }
+  // Draw the held-back point, if any; the path then ends where the segments ended.
+  void PathFlush() {
+    const double dx = m_heldX - m_lastX;
+    const double dy = m_heldY - m_lastY;
+    if (m_held && dx * dx + dy * dy >= kMinDrawnPixels * kMinDrawnPixels) {
+      EnsureGroup();
+      m_draw.DrawLine(m_lastX, m_lastY, m_heldX, m_heldY);
+      m_lastX = m_heldX;
+      m_lastY = m_heldY;
+    }
+    m_held = false;
+  }
+  // Lift the pen: the next line starts a path of its own.
+  void PathEnd() {
+    PathFlush();
+    m_penDown = false;
+  }
+
+  // A layer's group is begun with its first shape, so a layer whose moves all stay below a pixel is left out.
+  void EnsureGroup() {
+    if (m_groupPending.empty())
+      return;
+    m_canvas.BeginGroup(m_groupPending, m_groupLabel);
+    const KCC_LineAttributes pen = PenOf(m_layerTool, m_layerKind);
+    m_canvas.SetPenColor(pen.GetLineColor());
+    m_canvas.SetPenStyle(pen.GetLineStyle());
+    m_canvas.SetPenWidth(pen.GetLineWidth());
+    m_groupPending.clear();
+    m_groupOpen = true;
   }
 
   // A straight move; long ones get an arrow at their middle.
-  void DrawMove(Layer& layer, double x1, double y1, double x2, double y2, const KCC_LineAttributes& pen) {
-    const double length = std::hypot(x2 - x1, y2 - y1);
-    if (!(length >= kMinDrawnPixels))
-      return;
-    if (m_arrows && length >= kPlotArrowMinPixels) {
+  void DrawMove(double x1, double y1, double x2, double y2, std::uint32_t tool, int kind) {
+    if (m_arrows && std::hypot(x2 - x1, y2 - y1) >= kPlotArrowMinPixels) {
+      PathEnd();
+      EnsureGroup();
       const double mx = (x1 + x2) / 2.0;
       const double my = (y1 + y2) / 2.0;
-      layer.draw.DrawArrowLine(x1, y1, mx, my, kArrowSize, pen);
-      layer.draw.DrawLine(mx, my, x2, y2);
-    } else {
-      layer.draw.DrawLine(x1, y1, x2, y2);
+      m_draw.DrawArrowLine(x1, y1, mx, my, kArrowSize, PenOf(tool, kind));
+      m_draw.DrawLine(mx, my, x2, y2);
+      return;
     }
+    PathStart(x1, y1);
+    PathTo(x2, y2);
   }
 
-  void DrawArcSegment(Layer& layer, const KCC_NcToolPath::Segment& s) {
+  // An arc in the view's plane. A consistent arc is an SVG arc, exact at any zoom (a full circle two half
+  // arcs). An inconsistent one is a polyline within kArcTolerancePixels of a spiral whose radius changes
+  // evenly from the start's to the end's along the sweep, the way the tool-path extents take it, so the
+  // drawing ends exactly at the end point. Arcs smaller than the merge distance are lines.
+  void DrawPlaneArc(const KCC_NcToolPath::Segment& s, double x1, double y1, double x2, double y2) {
+    double xc = 0.0, yc = 0.0;
+    Map(s.centre, xc, yc);
+    // Pixel y points the other way than world y whenever the mapping mirrors, which turns the sense; an
+    // increasing pixel angle turns clockwise on the canvas.
+    const bool increasing = (s.kind == KCC_NcToolPath::kArcCW) == m_mirrored;
+    const double sx = x1 - xc, sy = y1 - yc;  // centre to start
+    const double ex = x2 - xc, ey = y2 - yc;  // centre to end
+    double sweep = 2.0 * kPi;
+    if ((s.flags & KCC_NcToolPath::kFlagFullCircle) == 0) {
+      // The angle from the start to the end direction, then taken the way the arc turns.
+      const double turn = std::atan2(sx * ey - sy * ex, sx * ex + sy * ey);
+      sweep = increasing ? turn : -turn;
+      if (sweep <= 0.0)
+        sweep += 2.0 * kPi;
+    }
+    const double rs = std::sqrt(sx * sx + sy * sy);
+    const double re = std::sqrt(ex * ex + ey * ey);
+    const double r = std::max(rs, re);
+    PathStart(x1, y1);
+    if (!(r >= kMergePixels) || !std::isfinite(sweep) || !std::isfinite(r)) {
+      PathTo(x2, y2);
+      return;
+    }
+    if ((s.flags & KCC_NcToolPath::kFlagInconsistent) == 0) {
+      PathFlush();
+      EnsureGroup();
+      m_canvas.MoveTo(KC2DPoint(m_lastX, m_lastY));
+      if (sweep >= 2.0 * kPi) {
+        const KC2DPoint opposite(2.0 * xc - x1, 2.0 * yc - y1);
+        m_canvas.ArcTo(opposite, rs, false, increasing);
+        m_canvas.ArcTo(KC2DPoint(x2, y2), rs, false, increasing);
+      } else {
+        m_canvas.ArcTo(KC2DPoint(x2, y2), (rs + re) / 2.0, sweep > kPi, increasing);
+      }
+      m_lastX = x2;
+      m_lastY = y2;
+      return;
+    }
+    const double steps = std::ceil(sweep / (2.0 * std::acos(1.0 - kArcTolerancePixels / r)));
+    if (!(steps > 1.0) || !(rs > 0.0)) {
+      PathTo(x2, y2);
+      return;
+    }
+    const int n = static_cast<int>(std::min(steps, static_cast<double>(kMaxArcSteps)));
+    const double step = (increasing ? sweep : -sweep) / n;
+    // The unit vector of each point's angle, turned by one step at a time.
+    const double turnCos = std::cos(step);
+    const double turnSin = std::sin(step);
+    double c = sx / rs;
+    double sn = sy / rs;
+    for (int k = 1; k < n; ++k) {
+      const double nc = c * turnCos - sn * turnSin;
+      sn = sn * turnCos + c * turnSin;
+      c = nc;
+      const double radius = rs + (re - rs) * k / n;
+      PathTo(xc + radius * c, yc + radius * sn);
+    }
+    PathTo(x2, y2);
+  }
+
+  void DrawArcSegment(const KCC_NcToolPath::Segment& s) {
     double x1 = 0.0, y1 = 0.0, x2 = 0.0, y2 = 0.0;
     Map(s.start, x1, y1);
     Map(s.end, x2, y2);
     if (s.plane == m_axes.plane) {
-      double xc = 0.0, yc = 0.0;
-      Map(s.centre, xc, yc);
-      const bool worldClockwise = s.kind == KCC_NcToolPath::kArcCW;
-      layer.draw.DrawArc(x1, y1, x2, y2, xc, yc, worldClockwise != m_mirrored,
-                         (s.flags & KCC_NcToolPath::kFlagFullCircle) != 0);
+      DrawPlaneArc(s, x1, y1, x2, y2);
       return;
     }
     // Seen from the side the arc is a line; it runs through the points where the arc turns back in one
@@ -397,7 +469,7 @@ class Plotter {
     const double endRadius = std::hypot(ea, eb);
     const double startC = static_cast<double>(s.start[c]);
     const double endC = static_cast<double>(s.end[c]);
-    double px = x1, py = y1;
+    PathStart(x1, y1);
     const double quarter = kPi / 2.0;
     // Multiples of 90 degrees strictly inside the sweep, in turning order.
     double k = ccw ? std::floor(startAngle / quarter) + 1.0 : std::ceil(startAngle / quarter) - 1.0;
@@ -413,39 +485,37 @@ class Plotter {
       point[c] = startC + (endC - startC) * fraction;
       double qx = 0.0, qy = 0.0;
       Map(point, qx, qy);
-      if (std::hypot(qx - px, qy - py) >= kMinDrawnPixels)
-        layer.draw.DrawLine(px, py, qx, qy);
-      px = qx;
-      py = qy;
+      PathTo(qx, qy);
     }
-    if (std::hypot(x2 - px, y2 - py) >= kMinDrawnPixels)
-      layer.draw.DrawLine(px, py, x2, y2);
+    PathTo(x2, y2);
   }
 
-  void DrawHole(Layer& layer, const KCC_NcToolPath::Segment& s, const KCC_LineAttributes& pen) {
+  void DrawHole(const KCC_NcToolPath::Segment& s, std::uint64_t number) {
     double x1 = 0.0, y1 = 0.0, x2 = 0.0, y2 = 0.0;
     Map(s.start, x1, y1);
     Map(s.end, x2, y2);
-    if (std::hypot(x2 - x1, y2 - y1) >= kMinDrawnPixels)
-      layer.draw.DrawLine(x1, y1, x2, y2);
+    PathStart(x1, y1);
+    PathTo(x2, y2);
+    PathEnd();
+    EnsureGroup();
+    const KCC_LineAttributes pen = PenOf(s.tool, s.kind);
     const int x = static_cast<int>(std::lround(x2));
     const int y = static_cast<int>(std::lround(y2));
     KCC_LineAttributes thin = pen;
     thin.SetLineWidth(1);
-    layer.draw.DrawAttrCircle(x, y, kHoleMarkerRadius, thin);
-    layer.draw.DrawAttrLine(x - kHoleMarkerRadius, y, x + kHoleMarkerRadius, y, thin);
-    layer.draw.DrawAttrLine(x, y - kHoleMarkerRadius, x, y + kHoleMarkerRadius, thin);
-    ++m_holeNumber;
-    if (m_holeNumber > kMaxNumberedHoles)
+    m_draw.DrawAttrCircle(x, y, kHoleMarkerRadius, thin);
+    m_draw.DrawAttrLine(x - kHoleMarkerRadius, y, x + kHoleMarkerRadius, y, thin);
+    m_draw.DrawAttrLine(x, y - kHoleMarkerRadius, x, y + kHoleMarkerRadius, thin);
+    if (number > kMaxNumberedHoles)
       return;
     KCC_TextAttributes font(kFontName);
     font.SetFontSize(kHoleNumberFontSize);
     font.SetTextColor(pen.GetLineColor());
-    const std::string number = std::to_string(m_holeNumber);
+    const std::string text = std::to_string(number);
     int w = 0, h = 0;
-    MeasureIn(layer.canvas, number, kHoleNumberFontSize, w, h);
-    layer.draw.DisplayText(number, static_cast<double>(x + kHoleMarkerRadius) + 1.0 + w / 2.0,
-                           static_cast<double>(y - kHoleMarkerRadius) - h / 2.0, KCC_FillAttributes(), font);
+    MeasureIn(m_canvas, text, kHoleNumberFontSize, w, h);
+    m_draw.DisplayText(text, static_cast<double>(x + kHoleMarkerRadius) + 1.0 + w / 2.0,
+                       static_cast<double>(y - kHoleMarkerRadius) - h / 2.0, KCC_FillAttributes(), font);
   }
 
   // The size of `text` in the legend font of `size` pixels, measured by `canvas` (its font is restored).
@@ -459,39 +529,109 @@ class Plotter {
     canvas.SetFontSize(oldSize);
   }
 
+  // The segments are drawn layer by layer, each layer a group: the move kinds from bottom to top
+  // (kLayerKindOrder), within a kind the tools in the order they first move, and within a layer the segments
+  // in program order. One counting pass and one placing pass put them in that order; holes keep their
+  // number in drilling order.
   void DrawSegments() {
+    const std::size_t tools = m_summary.tools.size();
+    std::map<std::uint32_t, std::size_t> toolIndex;
+    for (std::size_t i = 0; i < tools; ++i)
+      toolIndex.emplace(m_summary.tools[i], i);
+    auto kindIndex = [](int kind) -> std::size_t {
+      switch (LayerKind(kind)) {
+        case KCC_NcToolPath::kRapid:
+          return 0;
+        case KCC_NcToolPath::kFeed:
+          return 1;
+        case KCC_NcToolPath::kHole:
+          return 3;
+        default:
+          return 2;
+      }
+    };
+    std::uint32_t cachedTool = 0;
+    std::size_t cachedIndex = toolIndex.empty() ? 0 : toolIndex.begin()->second;
+    if (!toolIndex.empty())
+      cachedTool = toolIndex.begin()->first;
+    auto layerOf = [&](const KCC_NcToolPath::Segment& s) {
+      if (s.tool != cachedTool) {
+        cachedTool = s.tool;
+        cachedIndex = toolIndex.at(s.tool);
+      }
+      return kindIndex(s.kind) * tools + cachedIndex;
+    };
+    std::vector<std::size_t> start(4 * tools + 1, 0);
+    std::size_t total = 0;
     const KCC_NcToolPath::Segment* first = nullptr;
     const KCC_NcToolPath::Segment* last = nullptr;
     for (const PlotProgram& p : m_programs) {
       for (const KCC_NcToolPath::Segment& s : p.path->GetSegments()) {
+        ++start[layerOf(s) + 1];
+        ++total;
         if (!first)
           first = &s;
         last = &s;
-        Layer& layer = LayerOf(s.tool, s.kind);
-        if (s.kind == KCC_NcToolPath::kArcCW || s.kind == KCC_NcToolPath::kArcCCW) {
-          DrawArcSegment(layer, s);
-        } else if (s.kind == KCC_NcToolPath::kHole) {
-          DrawHole(layer, s, PenOf(s.tool, s.kind));
-        } else {
-          double x1 = 0.0, y1 = 0.0, x2 = 0.0, y2 = 0.0;
-          Map(s.start, x1, y1);
-          Map(s.end, x2, y2);
-          DrawMove(layer, x1, y1, x2, y2, PenOf(s.tool, s.kind));
-        }
       }
     }
     if (!first)
       return;
-    Layer& markers = NewLayer("markers", "start and end");
+    for (std::size_t i = 1; i < start.size(); ++i)
+      start[i] += start[i - 1];
+    std::vector<const KCC_NcToolPath::Segment*> order(total);
+    std::vector<std::size_t> fill(start.begin(), start.end() - 1);
+    const std::size_t holeStart = start[3 * tools];
+    std::vector<std::uint64_t> holeNumbers(total - holeStart);
+    std::uint64_t holes = 0;
+    for (const PlotProgram& p : m_programs) {
+      for (const KCC_NcToolPath::Segment& s : p.path->GetSegments()) {
+        const std::size_t at = fill[layerOf(s)]++;
+        order[at] = &s;
+        if (s.kind == KCC_NcToolPath::kHole)
+          holeNumbers[at - holeStart] = ++holes;
+      }
+    }
+    // A line is one point, a consistent arc three or six; spirals grow the array as they need.
+    m_canvas.ReservePoints(total + 2 * (m_summary.arcs + m_summary.holes));
+    for (std::size_t layer = 0; layer < 4 * tools; ++layer) {
+      if (start[layer] == start[layer + 1])
+        continue;
+      const int kind = kLayerKindOrder[layer / tools];
+      m_layerTool = m_summary.tools[layer % tools];
+      m_layerKind = kind;
+      m_groupPending = "t" + std::to_string(m_layerTool) + "-" + KindLabel(kind);
+      m_groupLabel = ToolLabel(m_layerTool) + " " + KindLabel(kind);
+      for (std::size_t i = start[layer]; i < start[layer + 1]; ++i) {
+        const KCC_NcToolPath::Segment& s = *order[i];
+        if (s.kind == KCC_NcToolPath::kArcCW || s.kind == KCC_NcToolPath::kArcCCW) {
+          DrawArcSegment(s);
+        } else if (s.kind == KCC_NcToolPath::kHole) {
+          DrawHole(s, holeNumbers[i - holeStart]);
+        } else {
+          double x1 = 0.0, y1 = 0.0, x2 = 0.0, y2 = 0.0;
+          Map(s.start, x1, y1);
+          Map(s.end, x2, y2);
+          DrawMove(x1, y1, x2, y2, s.tool, s.kind);
+        }
+      }
+      PathEnd();
+      m_groupPending.clear();
+      if (m_groupOpen)
+        m_canvas.EndGroup();
+      m_groupOpen = false;
+    }
+
+    m_canvas.BeginGroup("markers", "start and end");
     const KCC_LineAttributes outline(ToColor(kEndColour), KCPenStyleSolid(), 1);
     double sx = 0.0, sy = 0.0, ex = 0.0, ey = 0.0;
     Map(first->start, sx, sy);
     Map(last->end, ex, ey);
-    markers.draw.DrawFilledRectangle(ex - kEndMarkerHalfSize, ey - kEndMarkerHalfSize,
-                                     ex + kEndMarkerHalfSize, ey + kEndMarkerHalfSize, outline,
-                                     KCC_FillAttributes(ToColor(kEndColour), true));
-    markers.draw.DrawAttrCircle(static_cast<int>(std::lround(sx)), static_cast<int>(std::lround(sy)),
-                                kStartMarkerRadius, outline, KCC_FillAttributes(ToColor(kStartColour), true));
+    m_draw.DrawFilledRectangle(ex - kEndMarkerHalfSize, ey - kEndMarkerHalfSize, ex + kEndMarkerHalfSize,
+                               ey + kEndMarkerHalfSize, outline,
+                               KCC_FillAttributes(ToColor(kEndColour), true));
+    m_draw.DrawAttrCircle(static_cast<int>(std::lround(sx)), static_cast<int>(std::lround(sy)),
+                          kStartMarkerRadius, outline, KCC_FillAttributes(ToColor(kStartColour), true));
+    m_canvas.EndGroup();
   }
 
   std::string ExtentLine(const char* axis, int index) const {
@@ -554,30 +694,36 @@ class Plotter {
     }
   }
 
-  // `text` cut at a character boundary, with "..." added, so that it fits `width` pixels in `canvas`.
-  static std::string Fit(KCC_SvgCanvas& canvas, std::string text, int width) {
+  // `text` cut at a character boundary, with "..." added, so that it fits `width` pixels in `canvas`. The
+  // cut is found by halving, since the measured width grows with every character kept.
+  static std::string Fit(KCC_SvgCanvas& canvas, const std::string& text, int width) {
     int w = 0, h = 0;
     MeasureIn(canvas, text, kLegendFontSize, w, h);
     if (w <= width)
       return text;
-    while (!text.empty()) {
-      // Drop one character: its continuation bytes first, then the byte that starts it.
-      while (!text.empty() && (static_cast<unsigned char>(text.back()) & 0xC0) == 0x80)
-        text.pop_back();
-      if (!text.empty())
-        text.pop_back();
-      MeasureIn(canvas, text + "...", kLegendFontSize, w, h);
-      if (w <= width)
-        break;
+    std::vector<std::size_t> cuts;  // the lengths that end at a character boundary, shortest first
+    for (std::size_t i = 0; i < text.size(); ++i) {
+      if ((static_cast<unsigned char>(text[i]) & 0xC0) != 0x80)
+        cuts.push_back(i);
     }
-    return text + "...";
+    std::size_t low = 0;  // cuts[low] fits (the empty text is taken even when "..." alone does not fit)
+    std::size_t high = cuts.size();
+    while (high - low > 1) {
+      const std::size_t middle = low + (high - low) / 2;
+      MeasureIn(canvas, text.substr(0, cuts[middle]) + "...", kLegendFontSize, w, h);
+      if (w <= width)
+        low = middle;
+      else
+        high = middle;
+    }
+    return text.substr(0, cuts[low]) + "...";
   }
 
   void DrawLegend() {
-    Layer& legend = NewLayer("legend", "legend");
+    m_canvas.BeginGroup("legend", "legend");
     const KCC_LineAttributes edge(ToColor(kLegendPanelColour), KCPenStyleSolid(), 1);
-    legend.draw.DrawFilledRectangle(m_plotWidth, 0, m_width, m_height, edge,
-                                    KCC_FillAttributes(ToColor(kLegendPanelColour), true));
+    m_draw.DrawFilledRectangle(m_plotWidth, 0, m_width, m_height, edge,
+                               KCC_FillAttributes(ToColor(kLegendPanelColour), true));
     KCC_TextAttributes font(kFontName);
     font.SetFontSize(kLegendFontSize);
     font.SetTextColor(ToColor(kTextColour));
@@ -590,16 +736,16 @@ class Plotter {
       int textLeft = left;
       const int middle = top + kLegendLineHeight / 2;
       if (line.sample) {
-        legend.draw.DrawAttrLine(left, middle, left + kLegendSwatchLength, middle, line.pen);
+        m_draw.DrawAttrLine(left, middle, left + kLegendSwatchLength, middle, line.pen);
         textLeft = left + kLegendSwatchLength + kLegendPadding / 2;
       }
-      const std::string text = Fit(legend.canvas, line.text, right - textLeft);
+      const std::string text = Fit(m_canvas, line.text, right - textLeft);
       int w = 0, h = 0;
-      MeasureIn(legend.canvas, text, kLegendFontSize, w, h);
-      legend.draw.DisplayText(text, textLeft + w / 2.0, static_cast<double>(middle), KCC_FillAttributes(),
-                              font);
+      MeasureIn(m_canvas, text, kLegendFontSize, w, h);
+      m_draw.DisplayText(text, textLeft + w / 2.0, static_cast<double>(middle), KCC_FillAttributes(), font);
       top += kLegendLineHeight;
     }
+    m_canvas.EndGroup();
   }
 
   std::string Title() const {
@@ -611,66 +757,35 @@ class Plotter {
     return title;
   }
 
-  // The canvases' pictures joined: the first one's XML declaration and <svg> start tag (with the layer
-  // namespace added), the title and description, then each canvas's elements as one group.
-  std::string Assemble() {
-    std::vector<Layer*> order;
-    order.push_back(m_layers[0].get());
-    for (int kind : kLayerKindOrder) {
-      for (std::uint32_t tool : m_summary.tools) {
-        const auto found = m_segmentLayers.find({tool, kind});
-        if (found != m_segmentLayers.end())
-          order.push_back(found->second.get());
-      }
-    }
-    for (std::size_t i = 1; i < m_layers.size(); ++i)
-      order.push_back(m_layers[i].get());
-
-    const std::string frame = order[0]->canvas.ToSvg();
-    const std::size_t open = frame.find("<svg ");
-    const std::size_t close = frame.find(">\n", open);
-    std::string out = frame.substr(0, open) +
-                      "<svg xmlns:inkscape=\"http://www.inkscape.org/namespaces/inkscape\" " +
-                      frame.substr(open + 5, close + 2 - (open + 5));
-    out += "<title>" + XmlText(Title()) + "</title>\n<desc>";
-    for (std::size_t i = 0; i < m_lines.size(); ++i)
-      out += (i == 0 ? "" : "\n") + XmlText(m_lines[i].text);
-    out += "</desc>\n";
-    const std::string end = "</svg>\n";
-    for (Layer* layer : order) {
-      const std::string svg = layer->canvas.ToSvg();
-      const std::size_t bodyStart = svg.find(">\n", svg.find("<svg ")) + 2;
-      const std::size_t bodyEnd = svg.size() - end.size();
-      if (bodyEnd <= bodyStart)
-        continue;  // nothing drawn on this canvas
-      out += "<g id=\"" + layer->id + "\" inkscape:groupmode=\"layer\" inkscape:label=\"" +
-             XmlText(layer->label) + "\">\n";
-      out.append(svg, bodyStart, bodyEnd - bodyStart);
-      out += "</g>\n";
-    }
-    out += end;
-    return out;
-  }
-
   const std::string& m_fileName;
   const std::vector<PlotProgram>& m_programs;
   const PlotOptions& m_options;
   const ViewAxes m_axes;
   const PlotSummary m_summary;
-  int m_width = 0;
-  int m_height = 0;
+  const int m_width;
+  const int m_height;
   int m_plotWidth = 0;
   bool m_legend = false;
   bool m_arrows = true;
   bool m_mapped = false;
   bool m_mirrored = true;
-  std::uint64_t m_holeNumber = 0;
   std::map<std::uint32_t, Rgb> m_toolColour;
   KCC_ViewPortDraw m_port;
-  std::vector<std::unique_ptr<Layer>> m_layers;
-  std::map<std::pair<std::uint32_t, int>, std::unique_ptr<Layer>> m_segmentLayers;
-  std::pair<std::uint32_t, int> m_lastKey;
-  Layer* m_lastLayer = nullptr;
+  KCC_SvgCanvas m_canvas;
+  KCC_Draw m_draw;
+  // The layer being drawn: its tool and move kind, and its group's id and label until the group is begun.
+  std::uint32_t m_layerTool = 0;
+  int m_layerKind = 0;
+  std::string m_groupPending;
+  std::string m_groupLabel;
+  bool m_groupOpen = false;
+  // The layer's path: pen down at (m_lastX, m_lastY), the last point drawn, and maybe a held-back point.
+  bool m_penDown = false;
+  double m_lastX = 0.0;
+  double m_lastY = 0.0;
+  bool m_held = false;
+  double m_heldX = 0.0;
+  double m_heldY = 0.0;
   std::vector<LegendLine> m_lines;
 };
 

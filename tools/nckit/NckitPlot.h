@@ -17,15 +17,18 @@
 //   inside a pixel margin; a side shorter than kPlotMinWorldSpan is widened to it, so a single point or a
 //   straight line still gives a view.
 // - Rapids are dashed in one colour; feeds, arcs and holes are solid in the colour of their tool (a fixed
-//   palette, by the order in which the tools first move). Arcs in the view's plane are drawn as arcs;
-//   arcs in another plane are drawn as their projection, a line through the arc's extreme points. Lines
-//   longer than kPlotArrowMinPixels get a direction arrow at their middle, in pictures of at most
-//   kPlotMaxSegmentsWithArrows segments. A hole is its plunge line and a
-//   circle with a cross at its bottom, numbered in drilling order. A green dot marks the start of the path
-//   and a black square its end.
+//   palette, by the order in which the tools first move). Arcs in the view's plane are SVG arcs, exact at
+//   any zoom; an inconsistent arc (start and end radius differ) is a polyline within a quarter pixel of
+//   the spiral whose radius changes evenly along the sweep, as the extents take it. Arcs in another plane
+//   are drawn as their projection, a line through the arc's extreme points. Lines longer than
+//   kPlotArrowMinPixels get a direction arrow at their middle, in pictures of at most
+//   kPlotMaxSegmentsWithArrows segments. A hole is its plunge line and a circle with a cross at its bottom,
+//   numbered in drilling order. A green dot marks the start of the path and a black square its end.
+// - Within a layer, points closer than half a pixel to the last point drawn are merged into the next line,
+//   so a run of tiny moves costs one line per half pixel; every segment's end is still reached.
 // - Every tool and move kind is a group of its own ("T1 feed", "T3 rapid"), marked as a layer for vector
-//   editors, then come the markers and the legend. KCC_SvgCanvas writes no groups, so each group is drawn
-//   on a canvas of its own and the pictures are joined here.
+//   editors, then come the markers and the legend. The segments are sorted into their layers first, so each
+//   layer is one group however the tools and kinds alternate; a layer with nothing to draw is left out.
 // - A legend at the right (on canvases at least kPlotMinWidthForLegend wide) names the file, the programs,
 //   the units, the extents, the segment counts, the lengths, the run time, the tools and the words the
 //   interpreter did not take; the same text is the picture's <desc>.

@@ -99,19 +99,20 @@ class NCAPPKIT_EXPORT KCC_SvgCanvas : public KCCanvas {
   /// ignored; std::bad_alloc when memory runs out.
   void ReservePoints(std::size_t count);
 
-  /// Start a group: the shapes drawn until the matching EndGroup become children of one <g> element with
-  /// the id `id` (none when empty), marked as a layer named `label` for vector editors when `label` is not
-  /// empty. Ends an open path; never fails.
+  /// Start a group: the shapes drawn until the matching EndGroup become children of one group element
+  /// (`g`) with the id `id` (none when empty), marked as a layer named `label` for vector editors when
+  /// `label` is not empty. Ends an open path; never fails.
   void BeginGroup(const KCString& id, const KCString& label);
   /// End the innermost open group; nothing when none is open.
   void EndGroup();
   /// The number of groups begun and not yet ended.
   int GetOpenGroupCount() const noexcept { return m_openGroups; }
-  /// Set the text of the picture's <title> element (none when empty); never fails.
+  /// Set the text of the picture's title element, `title` (none when empty); never fails.
   void SetTitle(const KCString& title);
   /// The title as set (empty by default).
   KCString GetTitle() const;
-  /// Set the text of the picture's <desc> element (none when empty); line breaks are kept; never fails.
+  /// Set the text of the picture's description element, `desc` (none when empty); line breaks are kept;
+  /// never fails.
   void SetDescription(const KCString& description);
   /// The description as set (empty by default).
   KCString GetDescription() const;

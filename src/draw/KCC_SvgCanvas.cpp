@@ -81,6 +81,17 @@ std::string FormatNumber(double value, int decimals) {
 // the decimal point put in. Returns the end of the text, or nullptr (nothing written) for a tie, a large or
 // a non-finite value, which FormatNumber must write. `p` needs room for kFastNumberRoom characters.
 constexpr std::size_t kFastNumberRoom = 24;
+// "00" .. "99": the integer part of a number is written two digits at a time.
+struct DigitPairs {
+  char text[200];
+  constexpr DigitPairs() : text() {
+    for (int i = 0; i < 100; ++i) {
+      text[2 * i] = static_cast<char>('0' + i / 10);
+      text[2 * i + 1] = static_cast<char>('0' + i % 10);
+    }
+  }
+};
+constexpr DigitPairs kDigitPairs;
 char* WriteFastNumber(char* p, double value, int decimals) {
   const double scaled = value * kPow10[decimals];
   if (!(std::fabs(scaled) < kFastNumberLimit))
@@ -92,25 +103,33 @@ char* WriteFastNumber(char* p, double value, int decimals) {
   std::int64_t units = static_cast<std::int64_t>(whole);
   if (fraction > 0.5)
     units += scaled < 0.0 ? -1 : 1;
-  auto digits = static_cast<std::uint64_t>(units < 0 ? -units : units);
-  char buffer[kFastNumberRoom];
-  char* const end = buffer + sizeof buffer;
-  char* q = end;
+  // Below kFastNumberLimit * 10^0 < 2^32 the digits fit 32 bits, whose division is the cheaper one.
+  auto digits = static_cast<std::uint32_t>(units < 0 ? -units : units);
   int d = decimals;
   while (d > 0 && digits % 10 == 0) {  // trailing zeros of the decimals are dropped
     digits /= 10;
     --d;
   }
+  char buffer[kFastNumberRoom];
+  char* const end = buffer + sizeof buffer;
+  char* q = end;
   for (; d > 0; --d) {
     *--q = static_cast<char>('0' + digits % 10);
     digits /= 10;
   }
   if (q != end)
     *--q = '.';
-  do {
-    *--q = static_cast<char>('0' + digits % 10);
-    digits /= 10;
-  } while (digits != 0);
+  while (digits >= 100) {  // the integer digits two at a time
+    q -= 2;
+    std::memcpy(q, kDigitPairs.text + 2 * (digits % 100), 2);
+    digits /= 100;
+  }
+  if (digits >= 10) {
+    q -= 2;
+    std::memcpy(q, kDigitPairs.text + 2 * digits, 2);
+  } else {
+    *--q = static_cast<char>('0' + digits);
+  }
   if (units < 0)
     *--q = '-';
   const auto length = static_cast<std::size_t>(end - q);

@@ -233,6 +233,30 @@ TEST_F(NckitPlot, AlternatingKindsStillMakeOneGroupPerLayer) {
   EXPECT_LT(r.out.find("<g id=\"t0-rapid\""), r.out.find("<g id=\"t0-feed\""));
 }
 
+TEST_F(NckitPlot, InconsistentArcIsDrawnInTheMarkedLayer) {
+  // G2 from X0 Y0 to X20 Y0 about I5: 5 mm from the centre at the start, 15 mm at the end.
+  TempDir dir;
+  const std::string file =
+      dir.WriteFile("bad-arc.nc", "%\nO0012 (BAD ARC)\nG90 G1 X0 Y0 F500\nG2 X20 Y0 I5 J0\nG1 X30\nM30\n%\n");
+  const ChildResult r = Run({"plot", file});
+  ASSERT_EQ(r.exitCode, 0) << r.err;
+  const std::size_t group =
+      r.out.find("<g id=\"t0-marked\" inkscape:groupmode=\"layer\" inkscape:label=\"no tool marked\">");
+  ASSERT_NE(group, std::string::npos);
+  const std::string marked = r.out.substr(group, r.out.find("</g>", group) - group);
+  EXPECT_NE(marked.find("stroke=\"#ff8200\" stroke-width=\"2\" stroke-dasharray=\"12,6,4,6\""),
+            std::string::npos)
+      << marked.substr(0, 400);
+  EXPECT_EQ(r.out.find("<g id=\"t0-arc\""), std::string::npos);
+  EXPECT_NE(r.out.find("<tspan>marked: inconsistent arcs (1)</tspan>"), std::string::npos);
+}
+
+TEST_F(NckitPlot, ProgramWithoutInconsistentArcsHasNoMarkedLayer) {
+  const ChildResult r = Run({"plot", FanucSample()});
+  ASSERT_EQ(r.exitCode, 0) << r.err;
+  EXPECT_EQ(r.out.find("marked"), std::string::npos);
+}
+
 // ---- the picture's structure
 
 TEST_F(NckitPlot, EachToolAndMoveKindIsALayer) {

@@ -38,6 +38,9 @@ constexpr Rgb kToolPalette[] = {{0, 90, 200},  {0, 140, 60},  {150, 60, 200}, {2
 constexpr Rgb kBackgroundColour{255, 255, 255};
 constexpr Rgb kLegendPanelColour{245, 245, 245};
 constexpr Rgb kTextColour{0, 0, 0};
+// Segments the interpreter marked (an inconsistent arc as it would most likely run, an arc without centre
+// or radius run straight) are orange and dash-dotted, whatever their tool: they are the ones to check.
+constexpr Rgb kMarkedColour{255, 130, 0};
 // The start dot is green and the end square black, so they read as "go" and "stop".
 constexpr Rgb kStartColour{0, 200, 0};
 constexpr Rgb kEndColour{0, 0, 0};
@@ -134,8 +137,13 @@ const char* ViewText(PlotView view) {
   return "XY seen from +Z (X right, Y up)";
 }
 
+// The layer of the segments the interpreter marked kFlagInconsistent, whatever their kind.
+constexpr int kMarkedLayer = 100;
+
 const char* KindLabel(int kind) {
   switch (kind) {
+    case kMarkedLayer:
+      return "marked";
     case KCC_NcToolPath::kRapid:
       return "rapid";
     case KCC_NcToolPath::kFeed:
@@ -147,14 +155,18 @@ const char* KindLabel(int kind) {
   }
 }
 
-// The layer a segment kind is drawn in: arcs of both senses share one.
-int LayerKind(int kind) {
-  return kind == KCC_NcToolPath::kArcCCW ? static_cast<int>(KCC_NcToolPath::kArcCW) : kind;
+// The layer a segment is drawn in: arcs of both senses share one, and marked segments have their own.
+int LayerKind(const KCC_NcToolPath::Segment& s) {
+  if ((s.flags & KCC_NcToolPath::kFlagInconsistent) != 0 && s.kind != KCC_NcToolPath::kHole)
+    return kMarkedLayer;
+  return s.kind == KCC_NcToolPath::kArcCCW ? static_cast<int>(KCC_NcToolPath::kArcCW) : s.kind;
 }
 
-// The order of the move-kind layers from bottom to top: rapids below the cut, holes on top.
+// The order of the layers from bottom to top: rapids below the cut, the marked segments over it, holes on
+// top (they stay last: DrawSegments counts on it).
 constexpr int kLayerKindOrder[] = {KCC_NcToolPath::kRapid, KCC_NcToolPath::kFeed, KCC_NcToolPath::kArcCW,
-                                   KCC_NcToolPath::kHole};
+                                   kMarkedLayer, KCC_NcToolPath::kHole};
+constexpr std::size_t kLayerKinds = sizeof kLayerKindOrder / sizeof kLayerKindOrder[0];
 
 std::string ToolLabel(std::uint32_t tool) {
   return tool == 0 ? std::string("no tool") : "T" + std::to_string(tool);
@@ -285,7 +297,10 @@ class Plotter {
                              py);
   }
 
+  // The pen of a layer kind (kLayerKindOrder) of `tool`.
   KCC_LineAttributes PenOf(std::uint32_t tool, int kind) const {
+    if (kind == kMarkedLayer)
+      return KCC_LineAttributes(ToColor(kMarkedColour), KCPenStyleDashDot(), kFeedPenWidth);
     if (kind == KCC_NcToolPath::kRapid)
       return KCC_LineAttributes(ToColor(kRapidColour), KCPenStyleDash(), kRapidPenWidth);
     return KCC_LineAttributes(ToColor(m_toolColour.at(tool)), KCPenStyleSolid(), kFeedPenWidth);
@@ -356,13 +371,13 @@ class Plotter {
   }
 
   // A straight move; long ones get an arrow at their middle.
-  void DrawMove(double x1, double y1, double x2, double y2, std::uint32_t tool, int kind) {
+  void DrawMove(double x1, double y1, double x2, double y2) {
     if (m_arrows && std::hypot(x2 - x1, y2 - y1) >= kPlotArrowMinPixels) {
       PathEnd();
       EnsureGroup();
       const double mx = (x1 + x2) / 2.0;
       const double my = (y1 + y2) / 2.0;
-      m_draw.DrawArrowLine(x1, y1, mx, my, kArrowSize, PenOf(tool, kind));
+      m_draw.DrawArrowLine(x1, y1, mx, my, kArrowSize, PenOf(m_layerTool, m_layerKind));
       m_draw.DrawLine(mx, my, x2, y2);
       return;
     }
@@ -538,14 +553,16 @@ class Plotter {
     std::map<std::uint32_t, std::size_t> toolIndex;
     for (std::size_t i = 0; i < tools; ++i)
       toolIndex.emplace(m_summary.tools[i], i);
-    auto kindIndex = [](int kind) -> std::size_t {
-      switch (LayerKind(kind)) {
+    auto kindIndex = [](const KCC_NcToolPath::Segment& s) -> std::size_t {
+      switch (LayerKind(s)) {
         case KCC_NcToolPath::kRapid:
           return 0;
         case KCC_NcToolPath::kFeed:
           return 1;
-        case KCC_NcToolPath::kHole:
+        case kMarkedLayer:
           return 3;
+        case KCC_NcToolPath::kHole:
+          return 4;
         default:
           return 2;
       }
@@ -559,9 +576,9 @@ class Plotter {
         cachedTool = s.tool;
         cachedIndex = toolIndex.at(s.tool);
       }
-      return kindIndex(s.kind) * tools + cachedIndex;
+      return kindIndex(s) * tools + cachedIndex;
     };
-    std::vector<std::size_t> start(4 * tools + 1, 0);
+    std::vector<std::size_t> start(kLayerKinds * tools + 1, 0);
     std::size_t total = 0;
     const KCC_NcToolPath::Segment* first = nullptr;
     const KCC_NcToolPath::Segment* last = nullptr;
@@ -580,7 +597,7 @@ class Plotter {
       start[i] += start[i - 1];
     std::vector<const KCC_NcToolPath::Segment*> order(total);
     std::vector<std::size_t> fill(start.begin(), start.end() - 1);
-    const std::size_t holeStart = start[3 * tools];
+    const std::size_t holeStart = start[(kLayerKinds - 1) * tools];
     std::vector<std::uint64_t> holeNumbers(total - holeStart);
     std::uint64_t holes = 0;
     for (const PlotProgram& p : m_programs) {
@@ -593,7 +610,7 @@ class Plotter {
     }
     // A line is one point, a consistent arc three or six; spirals grow the array as they need.
     m_canvas.ReservePoints(total + 2 * (m_summary.arcs + m_summary.holes));
-    for (std::size_t layer = 0; layer < 4 * tools; ++layer) {
+    for (std::size_t layer = 0; layer < kLayerKinds * tools; ++layer) {
       if (start[layer] == start[layer + 1])
         continue;
       const int kind = kLayerKindOrder[layer / tools];
@@ -611,7 +628,7 @@ class Plotter {
           double x1 = 0.0, y1 = 0.0, x2 = 0.0, y2 = 0.0;
           Map(s.start, x1, y1);
           Map(s.end, x2, y2);
-          DrawMove(x1, y1, x2, y2, s.tool, s.kind);
+          DrawMove(x1, y1, x2, y2);
         }
       }
       PathEnd();
@@ -681,6 +698,9 @@ class Plotter {
       const std::uint32_t tool = m_summary.tools[i];
       addSample(ToolLabel(tool) + " feed, arc, hole", PenOf(tool, KCC_NcToolPath::kFeed));
     }
+    if (m_summary.marked > 0)
+      addSample("marked: inconsistent arcs (" + std::to_string(m_summary.marked) + ")",
+                PenOf(0, kMarkedLayer));
     if (m_summary.tools.size() > kMaxLegendTools)
       add("and " + std::to_string(m_summary.tools.size() - kMaxLegendTools) + " more tools");
     add("Warnings: " + std::to_string(m_summary.warnings));
@@ -863,6 +883,8 @@ PlotSummary SummarizePlot(const std::vector<PlotProgram>& programs) {
           ++summary.arcs;
           break;
       }
+      if ((s.flags & KCC_NcToolPath::kFlagInconsistent) != 0 && s.kind != KCC_NcToolPath::kHole)
+        ++summary.marked;
       if (summary.tools.empty() || summary.tools.back() != s.tool) {
         if (std::find(summary.tools.begin(), summary.tools.end(), s.tool) == summary.tools.end())
           summary.tools.push_back(s.tool);

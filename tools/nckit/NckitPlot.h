@@ -24,6 +24,10 @@
 //   kPlotArrowMinPixels get a direction arrow at their middle, in pictures of at most
 //   kPlotMaxSegmentsWithArrows segments. A hole is its plunge line and a circle with a cross at its bottom,
 //   numbered in drilling order. A green dot marks the start of the path and a black square its end.
+// - Segments the interpreter marked (kFlagInconsistent: an arc whose radii disagree, drawn as the spiral
+//   above, an R arc too short for its chord, drawn as the half circle, an arc without centre or radius,
+//   drawn straight) are drawn orange and dash-dotted in a "marked" layer of their tool, above the cut, and
+//   the legend counts them.
 // - Within a layer, points closer than half a pixel to the last point drawn are merged into the next line,
 //   so a run of tiny moves costs one line per half pixel; every segment's end is still reached.
 // - Every tool and move kind is a group of its own ("T1 feed", "T3 rapid"), marked as a layer for vector
@@ -87,6 +91,8 @@ struct PlotSummary {
   std::uint64_t feeds = 0;
   std::uint64_t arcs = 0;
   std::uint64_t holes = 0;
+  /// Segments the interpreter marked kFlagInconsistent (counted in their kind as well).
+  std::uint64_t marked = 0;
   bool hasExtents = false;
   KCC_NcToolPath::Extents extents;
   double rapidLength = 0.0;

@@ -20,6 +20,7 @@
 #include "ncappkit/draw/KCC_SvgCanvas.h"
 #include "ncappkit/foundation/KCParagraph.h"
 #include "support/ChildProcess.h"
+#include "support/ChromiumRender.h"
 #include "support/PngImage.h"
 #include "support/TempDir.h"
 #include "support/TestData.h"
@@ -170,15 +171,6 @@ TEST(KccSvgCanvasFile, KcDocumentReadsTheFileBack) {
 
 // ---- rendering
 
-std::string FindChromium() {
-  for (const char* name : {"chromium", "chromium-browser"}) {
-    const std::string path = FindProgramOnPath(name);
-    if (!path.empty())
-      return path;
-  }
-  return std::string();
-}
-
 bool IsRed(const PngImage::Pixel& p) {
   return p.r > 200 && p.g < 60 && p.b < 60;
 }
@@ -203,25 +195,16 @@ TEST(KccSvgCanvasRendering, ChromiumDrawsStrokeFillTextAndMarkInTheirBoxes) {
   KCC_SvgCanvas canvas(kWidth, kHeight);
   DrawEveryOperation(canvas);
   const std::string svg = dir.Path("every_operation.svg");
-  const std::string png = dir.Path("every_operation.png");
   ASSERT_TRUE(canvas.SaveToFile(svg));
 
   const auto start = std::chrono::steady_clock::now();
-  const ChildResult result =
-      RunChild({chromium, "--headless", "--no-sandbox", "--disable-gpu", "--no-first-run",
-                "--disable-background-networking", "--hide-scrollbars", "--force-device-scale-factor=1",
-                "--user-data-dir=" + dir.Path("profile"), "--screenshot=" + png,
-                "--window-size=" + std::to_string(kWidth) + "," + std::to_string(kHeight), "file://" + svg},
-               120.0);
+  PngImage image;
+  std::string error;
+  const bool rendered = RenderWithChromium(chromium, svg, kWidth, kHeight, dir.Path("render"), image, error);
   RecordProperty(
       "chromium_seconds",
       std::to_string(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count()));
-  std::string bytes;
-  ASSERT_TRUE(ReadFileBytes(png, bytes)) << "chromium wrote no screenshot (exit code " << result.exitCode
-                                         << (result.timedOut ? ", timed out" : "") << "): " << result.err;
-  PngImage image;
-  std::string error;
-  ASSERT_TRUE(ReadPng(bytes, image, error)) << error;
+  ASSERT_TRUE(rendered) << error;
 
   EXPECT_EQ(image.width, kWidth);
   EXPECT_EQ(image.height, kHeight);

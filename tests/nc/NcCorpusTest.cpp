@@ -92,35 +92,9 @@ void ExpectSamePrograms(KCC_NcFileProgramList& before, KCC_NcFileProgramList& af
   EXPECT_TRUE(a.numberedParts == b.numberedParts);
 }
 
-// One file of the corpus; `name` is its path inside the corpus as a test name.
-struct CorpusFile {
-  std::string name;
-  fs::path path;  // empty for the row that stands for a missing corpus
-};
-
-void PrintTo(const CorpusFile& file, std::ostream* out) {
-  *out << file.path.u8string();
-}
-
-std::vector<CorpusFile> CorpusFiles() {
-  std::vector<CorpusFile> files;
-  std::error_code ec;
-  const fs::path root(NCAPPKIT_CORPUS_DIR);
-  if (fs::is_directory(root, ec)) {
-    for (auto it = fs::recursive_directory_iterator(root, ec);
-         !ec && it != fs::recursive_directory_iterator(); it.increment(ec)) {
-      if (it->is_regular_file(ec) && it->path().extension() != ".md")
-        files.push_back({"", it->path()});
-    }
-  }
-  std::sort(files.begin(), files.end(),
-            [](const CorpusFile& a, const CorpusFile& b) { return a.path < b.path; });
-  for (CorpusFile& file : files)
-    file.name = ToTestName(file.path.lexically_relative(root).u8string());
-  MakeRowNamesUnique(files);
-  if (files.empty())
-    files.push_back({"no_corpus", fs::path()});
-  return files;
+// Every file of the corpus but its notes.
+bool IsCorpusFile(const fs::path& path) {
+  return path.extension() != ".md";
 }
 
 class NcCorpus : public ::testing::TestWithParam<CorpusFile> {};
@@ -150,11 +124,11 @@ TEST_P(NcCorpus, LoadsAndSurvivesSaveAndReload) {
   ExpectSamePrograms(original.GetSubProgList(), reloaded.GetSubProgList());
 }
 
-INSTANTIATE_TEST_SUITE_P(Corpus, NcCorpus, ::testing::ValuesIn(CorpusFiles()), RowName());
+INSTANTIATE_TEST_SUITE_P(Corpus, NcCorpus, ::testing::ValuesIn(CorpusFiles(IsCorpusFile)), RowName());
 
 // The round trip above is empty for a file without programs: the corpus must hold some that have programs.
 TEST(NcCorpusFiles, SomeFileHasPrograms) {
-  const std::vector<CorpusFile> files = CorpusFiles();
+  const std::vector<CorpusFile> files = CorpusFiles(IsCorpusFile);
   if (files.front().path.empty())
     GTEST_SKIP() << "no NC corpus at " << NCAPPKIT_CORPUS_DIR;
   const bool any = std::any_of(files.begin(), files.end(), [](const CorpusFile& file) {

@@ -124,15 +124,6 @@ constexpr std::uint64_t kCorpusMaxBlocks = 2000000;
 // Budget per file for loading it and interpreting every program (generous for debug and sanitizer builds).
 constexpr double kCorpusSecondsPerFile = 30.0;
 
-struct CorpusFile {
-  std::string name;
-  fs::path path;  // empty for the row that stands for a missing corpus
-};
-
-void PrintTo(const CorpusFile& file, std::ostream* out) {
-  *out << file.path.u8string();
-}
-
 // NC programs only: the usual program extensions, and files without one (Fanuc O1234 files).
 bool LooksLikeNc(const fs::path& path) {
   std::string extension = path.extension().string();
@@ -141,27 +132,6 @@ bool LooksLikeNc(const fs::path& path) {
   static const char* const kExtensions[] = {"",     ".nc",  ".ngc", ".mpf", ".spf",
                                             ".tap", ".txt", ".cnc", ".all", ".gcode"};
   return std::find(std::begin(kExtensions), std::end(kExtensions), extension) != std::end(kExtensions);
-}
-
-std::vector<CorpusFile> CorpusFiles() {
-  std::vector<CorpusFile> files;
-  std::error_code ec;
-  const fs::path root(NCAPPKIT_CORPUS_DIR);
-  if (fs::is_directory(root, ec)) {
-    for (auto it = fs::recursive_directory_iterator(root, ec);
-         !ec && it != fs::recursive_directory_iterator(); it.increment(ec)) {
-      if (it->is_regular_file(ec) && LooksLikeNc(it->path()))
-        files.push_back({"", it->path()});
-    }
-  }
-  std::sort(files.begin(), files.end(),
-            [](const CorpusFile& a, const CorpusFile& b) { return a.path < b.path; });
-  for (CorpusFile& file : files)
-    file.name = ToTestName(file.path.lexically_relative(root).u8string());
-  MakeRowNamesUnique(files);
-  if (files.empty())
-    files.push_back({"no_corpus", fs::path()});
-  return files;
 }
 
 class NcToolPathCorpus : public ::testing::TestWithParam<CorpusFile> {};
@@ -208,4 +178,4 @@ TEST_P(NcToolPathCorpus, EveryProgramInterpretsWithinTheLimits) {
   EXPECT_LT(seconds, kCorpusSecondsPerFile);
 }
 
-INSTANTIATE_TEST_SUITE_P(Corpus, NcToolPathCorpus, ::testing::ValuesIn(CorpusFiles()), RowName());
+INSTANTIATE_TEST_SUITE_P(Corpus, NcToolPathCorpus, ::testing::ValuesIn(CorpusFiles(LooksLikeNc)), RowName());

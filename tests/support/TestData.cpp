@@ -65,6 +65,31 @@ std::vector<std::string> ListCaseFolders(const fs::path& root) {
   return names;
 }
 
+void PrintTo(const CorpusFile& file, std::ostream* out) {
+  *out << file.path.u8string();
+}
+
+std::vector<CorpusFile> CorpusFiles(const std::function<bool(const fs::path&)>& keep) {
+  std::vector<CorpusFile> files;
+  std::error_code ec;
+  const fs::path root(NCAPPKIT_CORPUS_DIR);
+  if (fs::is_directory(root, ec)) {
+    for (auto it = fs::recursive_directory_iterator(root, ec);
+         !ec && it != fs::recursive_directory_iterator(); it.increment(ec)) {
+      if (it->is_regular_file(ec) && keep(it->path()))
+        files.push_back({"", it->path()});
+    }
+  }
+  std::sort(files.begin(), files.end(),
+            [](const CorpusFile& a, const CorpusFile& b) { return a.path < b.path; });
+  for (CorpusFile& file : files)
+    file.name = ToTestName(file.path.lexically_relative(root).u8string());
+  MakeRowNamesUnique(files);
+  if (files.empty())
+    files.push_back({"no_corpus", fs::path()});
+  return files;
+}
+
 std::vector<std::string> ListFilesWithSuffix(const fs::path& root, const std::string& suffix) {
   std::vector<std::string> names;
   std::error_code error;

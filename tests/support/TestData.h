@@ -18,6 +18,8 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <functional>
+#include <ostream>
 #include <set>
 #include <string>
 #include <vector>
@@ -104,6 +106,19 @@ struct RowName {
     return ToTestName(info.param.name);
   }
 };
+
+/// One file of the NC corpus (NCAPPKIT_CORPUS_DIR) as a row of a TEST_P table; `name` is its path inside
+/// the corpus as a test name.
+struct CorpusFile {
+  std::string name;
+  std::filesystem::path path;  // empty for the row that stands for a missing corpus
+};
+/// Prints the file's path as the row's parameter.
+void PrintTo(const CorpusFile& file, std::ostream* out);
+
+/// The regular files below the corpus folder for which `keep` holds, sorted by path, with unique names; a
+/// single row "no_corpus" with an empty path when the folder is absent or keeps no file (the test skips).
+std::vector<CorpusFile> CorpusFiles(const std::function<bool(const std::filesystem::path&)>& keep);
 
 /// "PATH:LINE: ", the start of a message about a line of a data file.
 std::string Where(const std::filesystem::path& path, int line);

@@ -18,6 +18,7 @@
 #include <string>
 #include <vector>
 
+#include "support/ChromiumRender.h"
 #include "support/NckitFixture.h"
 #include "support/PngImage.h"
 #include "support/TempDir.h"
@@ -438,15 +439,6 @@ INSTANTIATE_TEST_SUITE_P(
 
 // ---- rendering
 
-std::string FindChromium() {
-  for (const char* name : {"chromium", "chromium-browser"}) {
-    const std::string path = FindProgramOnPath(name);
-    if (!path.empty())
-      return path;
-  }
-  return std::string();
-}
-
 // The rapid colour (220, 30, 30) of a 1-pixel dashed line, blended with the white paper by anti-aliasing.
 bool IsRapidRed(const PngImage::Pixel& p) {
   return p.r > 200 && p.g < 180 && p.b < 180 && p.r - p.g > 40;
@@ -467,20 +459,10 @@ TEST_F(NckitPlot, ChromiumDrawsRapidsAndFeedsWhereTheyRun) {
   const std::string file =
       dir.WriteFile("lines.nc", "%\nO0001\nT1 M6\nG0 X0 Y0\nX100\nG1 Y50 F500\nX0\nM30\n%\n");
   const std::string svg = dir.Path("lines.svg");
-  const std::string png = dir.Path("lines.png");
   ASSERT_EQ(Run({"plot", file, "-o", svg}).exitCode, 0);
-  const ChildResult result =
-      RunChild({chromium, "--headless", "--no-sandbox", "--disable-gpu", "--no-first-run",
-                "--disable-background-networking", "--hide-scrollbars", "--force-device-scale-factor=1",
-                "--user-data-dir=" + dir.Path("profile"), "--screenshot=" + png, "--window-size=1000,700",
-                "file://" + svg},
-               120.0);
-  std::string bytes;
-  ASSERT_TRUE(ReadFileBytes(png, bytes)) << "chromium wrote no screenshot (exit code " << result.exitCode
-                                         << (result.timedOut ? ", timed out" : "") << "): " << result.err;
   PngImage image;
   std::string error;
-  ASSERT_TRUE(ReadPng(bytes, image, error)) << error;
+  ASSERT_TRUE(RenderWithChromium(chromium, svg, 1000, 700, dir.Path("render"), image, error)) << error;
   ASSERT_EQ(image.width, 1000);
   ASSERT_EQ(image.height, 700);
   // The rapid's dashes cover about two thirds of the 500 columns checked; no feed colour lies there.

@@ -90,28 +90,14 @@ void PrintSummary() {
   std::printf("%-36s %10.3f %10.3f %10.3f %10.3f   (goal <= 1.0)\n", "ratio LoadFromFile / floor",
               Min(g_library.wall) / Min(g_floor.wall), Median(g_library.wall) / Median(g_floor.wall),
               Min(g_library.cpu) / Min(g_floor.cpu), Median(g_library.cpu) / Median(g_floor.cpu));
-  if (std::FILE* f = std::fopen("/proc/loadavg", "r")) {
-    char text[128] = {};
-    if (std::fgets(text, sizeof text, f) != nullptr)
-      std::printf("load average at the end: %s", text);
-    std::fclose(f);
-  }
+  bench_sampling::PrintLoadAverage();
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  // The two sides alternate in random order unless the command line says otherwise.
-  std::vector<char*> args(argv, argv + argc);
-  std::string interleave = "--benchmark_enable_random_interleaving=true";
-  if (std::none_of(args.begin(), args.end(), [](const char* a) {
-        return std::string(a).rfind("--benchmark_enable_random_interleaving", 0) == 0;
-      }))
-    args.insert(args.begin() + 1, interleave.data());
-  int count = static_cast<int>(args.size());
   g_file = std::make_unique<bench_nc::TestFile>();
-  benchmark::Initialize(&count, args.data());
-  if (benchmark::ReportUnrecognizedArguments(count, args.data()))
+  if (!bench_sampling::InitializeInterleaved(argc, argv))
     return 1;
   benchmark::RunSpecifiedBenchmarks();
   benchmark::Shutdown();

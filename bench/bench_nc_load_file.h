@@ -2,7 +2,7 @@
 // The NC file that the load benchmarks read: 999,000 lines (about 25 MB) in 700 programs of 1,427 lines and
 // a short last one. Each program starts with a number line with a reference comment and ends with M30 or
 // M99; in between are mostly linear moves with two or three axes, some arcs, comments and parameter lines.
-// The file is written into a fresh temporary directory that Remove deletes.
+// The file is written into a fresh temporary directory, removed with the object.
 #pragma once
 
 #include <cstdint>
@@ -12,31 +12,20 @@
 #include <random>
 #include <string>
 
+#include "bench_nc_temp_file.h"
+
 namespace bench_nc {
 
 constexpr int kFileLines = 999000;
 constexpr int kLinesPerProgram = 1427;
 
-struct TestFile {
-  std::filesystem::path directory;
-  std::string path;
-  std::uintmax_t bytes = 0;
+struct TestFile : TempNcFile {
   int programs = 0;  // programs a load must find
 
-  TestFile() {
-    directory = std::filesystem::temp_directory_path() /
-                ("ncappkit-bench-nc-load-" + std::to_string(std::random_device{}()));
-    std::filesystem::create_directories(directory);
-    path = (directory / "big.nc").string();
+  TestFile() : TempNcFile("ncappkit-bench-nc-load-") {
     Write();
-    bytes = std::filesystem::file_size(path);
+    Written();
   }
-  ~TestFile() {
-    std::error_code ec;
-    std::filesystem::remove_all(directory, ec);
-  }
-  TestFile(const TestFile&) = delete;
-  TestFile& operator=(const TestFile&) = delete;
 
  private:
   void Write() {
@@ -44,10 +33,7 @@ struct TestFile {
     std::mt19937 random(2026);
     std::uniform_int_distribution<int> coord(-99999, 99999);
     std::uniform_int_distribution<int> kind(0, 99);
-    auto num = [](int v) {
-      std::string s = std::to_string(v / 1000) + "." + std::to_string(std::abs(v % 1000));
-      return (v < 0 && v / 1000 == 0 ? "-" : "") + s;
-    };
+    const auto num = CoordinateText;
     std::string line;
     out << "%\n";
     int written = 1;

@@ -184,26 +184,19 @@ bool Prepare(Subject& subject, const char* name, const std::string& path, std::u
 }  // namespace
 
 int main(int argc, char** argv) {
-  std::vector<char*> args(argv, argv + argc);
-  std::string interleave = "--benchmark_enable_random_interleaving=true";
-  if (std::none_of(args.begin(), args.end(), [](const char* a) {
-        return std::string(a).rfind("--benchmark_enable_random_interleaving", 0) == 0;
-      }))
-    args.insert(args.begin() + 1, interleave.data());
-  int count = static_cast<int>(args.size());
   g_programFile = std::make_unique<bench_nc::ProgramFile>();
   g_loadFile = std::make_unique<bench_nc::TestFile>();
   if (!Prepare(g_one, "one program", g_programFile->path, g_programFile->bytes,
                bench_nc::kProgramFileLines) ||
       !Prepare(g_many, "700 programs", g_loadFile->path, g_loadFile->bytes, bench_nc::kFileLines))
     return 1;
-  benchmark::Initialize(&count, args.data());
-  if (benchmark::ReportUnrecognizedArguments(count, args.data()))
+  if (!bench_sampling::InitializeInterleaved(argc, argv))
     return 1;
   benchmark::RunSpecifiedBenchmarks();
   benchmark::Shutdown();
   PrintSummary(g_one, "(goal <= 2)");
   PrintSummary(g_many, "(no goal: its arcs are inconsistent)");
+  bench_sampling::PrintLoadAverage();
   g_one.loaded.reset();
   g_many.loaded.reset();
   g_loadFile.reset();

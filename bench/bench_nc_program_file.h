@@ -12,29 +12,17 @@
 #include <random>
 #include <string>
 
+#include "bench_nc_temp_file.h"
+
 namespace bench_nc {
 
 constexpr int kProgramFileLines = 999000;
 
-struct ProgramFile {
-  std::filesystem::path directory;
-  std::string path;
-  std::uintmax_t bytes = 0;
-
-  ProgramFile() {
-    directory = std::filesystem::temp_directory_path() /
-                ("ncappkit-bench-toolpath-" + std::to_string(std::random_device{}()));
-    std::filesystem::create_directories(directory);
-    path = (directory / "big.nc").string();
+struct ProgramFile : TempNcFile {
+  ProgramFile() : TempNcFile("ncappkit-bench-toolpath-") {
     Write();
-    bytes = std::filesystem::file_size(path);
+    Written();
   }
-  ~ProgramFile() {
-    std::error_code ec;
-    std::filesystem::remove_all(directory, ec);
-  }
-  ProgramFile(const ProgramFile&) = delete;
-  ProgramFile& operator=(const ProgramFile&) = delete;
 
  private:
   void Write() {
@@ -42,10 +30,7 @@ struct ProgramFile {
     std::mt19937 random(2026);
     std::uniform_int_distribution<int> coord(-99999, 99999);
     std::uniform_int_distribution<int> kind(0, 99);
-    auto num = [](int v) {
-      std::string s = std::to_string(v / 1000) + "." + std::to_string(std::abs(v % 1000));
-      return (v < 0 && v / 1000 == 0 ? "-" : "") + s;
-    };
+    const auto num = CoordinateText;
     out << "%\nO1000 (BIG PART)\nN10 G90 G17 G21 T1 M6\n";
     int written = 4;
     for (int n = 2; written < kProgramFileLines - 2; ++n, ++written) {

@@ -100,32 +100,19 @@ void PrintSummary() {
       "segments: %zu (%ju warnings); sizeof(Segment) = %zu bytes; vector capacity %.1f bytes per segment\n",
       g_segments, static_cast<std::uintmax_t>(g_warnings), sizeof(KCC_NcToolPath::Segment),
       g_segments == 0 ? 0.0 : static_cast<double>(g_capacityBytes) / static_cast<double>(g_segments));
-  if (std::FILE* f = std::fopen("/proc/loadavg", "r")) {
-    char text[128] = {};
-    if (std::fgets(text, sizeof text, f) != nullptr)
-      std::printf("load average at the end: %s", text);
-    std::fclose(f);
-  }
+  bench_sampling::PrintLoadAverage();
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  std::vector<char*> args(argv, argv + argc);
-  std::string interleave = "--benchmark_enable_random_interleaving=true";
-  if (std::none_of(args.begin(), args.end(), [](const char* a) {
-        return std::string(a).rfind("--benchmark_enable_random_interleaving", 0) == 0;
-      }))
-    args.insert(args.begin() + 1, interleave.data());
-  int count = static_cast<int>(args.size());
   g_file = std::make_unique<ProgramFile>();
   g_loaded = std::make_unique<KCC_NcFile>();
   if (g_loaded->LoadFromFile(g_file->path, false, false) == nullptr) {
     std::fprintf(stderr, "the benchmark file does not load: error %d\n", g_loaded->GetErrorCode());
     return 1;
   }
-  benchmark::Initialize(&count, args.data());
-  if (benchmark::ReportUnrecognizedArguments(count, args.data()))
+  if (!bench_sampling::InitializeInterleaved(argc, argv))
     return 1;
   benchmark::RunSpecifiedBenchmarks();
   benchmark::Shutdown();

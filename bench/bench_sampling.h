@@ -13,8 +13,10 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdint>
+#include <cstdio>
 #include <cstdlib>
 #include <ctime>
+#include <string>
 #include <vector>
 
 namespace bench_sampling {
@@ -70,6 +72,32 @@ inline double Median(std::vector<double> v) {
   std::sort(v.begin(), v.end());
   const std::size_t h = v.size() / 2;
   return v.size() % 2 == 1 ? v[h] : (v[h - 1] + v[h]) / 2.0;
+}
+
+// Initialises Google Benchmark with the sides run in random interleaved order, unless the command line sets
+// --benchmark_enable_random_interleaving itself. False (the unknown arguments reported) when the command
+// line holds arguments Google Benchmark does not know.
+inline bool InitializeInterleaved(int argc, char** argv) {
+  static std::vector<char*> args;
+  static std::string interleave = "--benchmark_enable_random_interleaving=true";
+  args.assign(argv, argv + argc);
+  if (std::none_of(args.begin(), args.end(), [](const char* a) {
+        return std::string(a).rfind("--benchmark_enable_random_interleaving", 0) == 0;
+      }))
+    args.insert(args.begin() + 1, interleave.data());
+  int count = static_cast<int>(args.size());
+  benchmark::Initialize(&count, args.data());
+  return !benchmark::ReportUnrecognizedArguments(count, args.data());
+}
+
+// Prints the system's load average, to judge how quiet the machine was during the run (Linux only).
+inline void PrintLoadAverage() {
+  if (std::FILE* f = std::fopen("/proc/loadavg", "r")) {
+    char text[128] = {};
+    if (std::fgets(text, sizeof text, f) != nullptr)
+      std::printf("load average at the end: %s", text);
+    std::fclose(f);
+  }
 }
 
 }  // namespace bench_sampling

@@ -43,43 +43,11 @@ bool NcWordScanner::ReadNumber(const char* text, std::size_t length, double& val
     ++i;
   }
   // Up to 19 significant digits are kept in an integer and divided by an exact power of ten once, so that
-  // the usual NC numbers (a few digits and decimals) read exactly as a correctly rounded double. The common
-  // case, at most 19 digits in all, takes the first loop alone; longer numbers are read again digit by digit.
+  // the usual NC numbers (a few digits and decimals) read exactly as a correctly rounded double.
   std::uint64_t mantissa = 0;
   int digits = 0;
   int scale = 0;  // decimals kept in the mantissa, negative when integer digits were dropped
   bool any = false;
-  {
-    std::size_t k = i;
-    std::uint64_t fast = 0;
-    int count = 0;
-    int decimals = -1;  // digits after the point, -1 before it
-    for (; k < length; ++k) {
-      const auto d = static_cast<unsigned>(static_cast<unsigned char>(text[k])) - '0';
-      if (d <= 9) {
-        fast = fast * 10 + d;
-        ++count;
-        if (decimals >= 0)
-          ++decimals;
-        if (count > 19)
-          break;
-      } else if (text[k] == '.' && decimals < 0) {
-        decimals = 0;
-      } else {
-        break;
-      }
-    }
-    if (count <= 19) {
-      if (count == 0)
-        return false;
-      double v = static_cast<double>(fast);
-      if (decimals > 0)
-        v /= kPow10[decimals];
-      value = negative ? -v : v;
-      used = k;
-      return true;
-    }
-  }
   for (; i < length && IsDigitChar(text[i]); ++i) {
     any = true;
     if (digits < 19) {

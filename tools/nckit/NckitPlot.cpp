@@ -168,6 +168,13 @@ constexpr int kLayerKindOrder[] = {KCC_NcToolPath::kRapid, KCC_NcToolPath::kFeed
                                    kMarkedLayer, KCC_NcToolPath::kHole};
 constexpr std::size_t kLayerKinds = sizeof kLayerKindOrder / sizeof kLayerKindOrder[0];
 
+// The position of a segment's layer kind in kLayerKindOrder.
+std::size_t LayerKindIndex(const KCC_NcToolPath::Segment& s) {
+  const int kind = LayerKind(s);
+  return static_cast<std::size_t>(std::find(kLayerKindOrder, kLayerKindOrder + kLayerKinds, kind) -
+                                  kLayerKindOrder);
+}
+
 std::string ToolLabel(std::uint32_t tool) {
   return tool == 0 ? std::string("no tool") : "T" + std::to_string(tool);
 }
@@ -295,6 +302,21 @@ class Plotter {
   void Map(const float point[3], double& px, double& py) const {
     m_port.World2ScreenPoint(static_cast<double>(point[m_axes.h]), static_cast<double>(point[m_axes.v]), px,
                              py);
+  }
+  // A segment's start and end in pixels. A segment that starts where the one mapped before ended (the
+  // segments of a layer mostly chain) takes that pixel point again, so each shared point is mapped once.
+  void MapEnds(const KCC_NcToolPath::Segment& s, double& x1, double& y1, double& x2, double& y2) {
+    if (m_endMapped && std::equal(s.start, s.start + 3, m_mappedEnd)) {
+      x1 = m_mappedEndX;
+      y1 = m_mappedEndY;
+    } else {
+      Map(s.start, x1, y1);
+    }
+    Map(s.end, x2, y2);
+    std::copy(s.end, s.end + 3, m_mappedEnd);
+    m_mappedEndX = x2;
+    m_mappedEndY = y2;
+    m_endMapped = true;
   }
 
   // The pen of a layer kind (kLayerKindOrder) of `tool`.
@@ -452,8 +474,7 @@ class Plotter {
 
   void DrawArcSegment(const KCC_NcToolPath::Segment& s) {
     double x1 = 0.0, y1 = 0.0, x2 = 0.0, y2 = 0.0;
-    Map(s.start, x1, y1);
-    Map(s.end, x2, y2);
+    MapEnds(s, x1, y1, x2, y2);
     if (s.plane == m_axes.plane) {
       DrawPlaneArc(s, x1, y1, x2, y2);
       return;
@@ -507,8 +528,7 @@ class Plotter {
 
   void DrawHole(const KCC_NcToolPath::Segment& s, std::uint64_t number) {
     double x1 = 0.0, y1 = 0.0, x2 = 0.0, y2 = 0.0;
-    Map(s.start, x1, y1);
-    Map(s.end, x2, y2);
+    MapEnds(s, x1, y1, x2, y2);
     PathStart(x1, y1);
     PathTo(x2, y2);
     PathEnd();
@@ -553,30 +573,12 @@ class Plotter {
     std::map<std::uint32_t, std::size_t> toolIndex;
     for (std::size_t i = 0; i < tools; ++i)
       toolIndex.emplace(m_summary.tools[i], i);
-    auto kindIndex = [](const KCC_NcToolPath::Segment& s) -> std::size_t {
-      switch (LayerKind(s)) {
-        case KCC_NcToolPath::kRapid:
-          return 0;
-        case KCC_NcToolPath::kFeed:
-          return 1;
-        case kMarkedLayer:
-          return 3;
-        case KCC_NcToolPath::kHole:
-          return 4;
-        default:
-          return 2;
-      }
-    };
-    std::uint32_t cachedTool = 0;
-    std::size_t cachedIndex = toolIndex.empty() ? 0 : toolIndex.begin()->second;
-    if (!toolIndex.empty())
-      cachedTool = toolIndex.begin()->first;
+    // Consecutive segments mostly share their tool, so the last lookup is kept.
+    auto cached = toolIndex.end();
     auto layerOf = [&](const KCC_NcToolPath::Segment& s) {
-      if (s.tool != cachedTool) {
-        cachedTool = s.tool;
-        cachedIndex = toolIndex.at(s.tool);
-      }
-      return kindIndex(s) * tools + cachedIndex;
+      if (cached == toolIndex.end() || cached->first != s.tool)
+        cached = toolIndex.find(s.tool);
+      return LayerKindIndex(s) * tools + cached->second;
     };
     std::vector<std::size_t> start(kLayerKinds * tools + 1, 0);
     std::size_t total = 0;
@@ -626,8 +628,7 @@ class Plotter {
           DrawHole(s, holeNumbers[i - holeStart]);
         } else {
           double x1 = 0.0, y1 = 0.0, x2 = 0.0, y2 = 0.0;
-          Map(s.start, x1, y1);
-          Map(s.end, x2, y2);
+          MapEnds(s, x1, y1, x2, y2);
           DrawMove(x1, y1, x2, y2);
         }
       }
@@ -799,6 +800,11 @@ class Plotter {
   std::string m_groupPending;
   std::string m_groupLabel;
   bool m_groupOpen = false;
+  // The end of the segment mapped last, in world and pixel coordinates (see MapEnds).
+  bool m_endMapped = false;
+  float m_mappedEnd[3] = {0.0f, 0.0f, 0.0f};
+  double m_mappedEndX = 0.0;
+  double m_mappedEndY = 0.0;
   // The layer's path: pen down at (m_lastX, m_lastY), the last point drawn, and maybe a held-back point.
   bool m_penDown = false;
   double m_lastX = 0.0;

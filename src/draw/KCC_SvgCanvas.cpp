@@ -560,39 +560,31 @@ KCC_SvgCanvas::Shape& KCC_SvgCanvas::StartPath(double x, double y) {
   return m_shapes.back();
 }
 
+KCC_SvgCanvas::Shape* KCC_SvgCanvas::BeginStep(const KC2DPoint& to, bool drawable) {
+  const KC2DPoint from = m_current;
+  m_current = to;
+  if (!drawable || !IsFinite(from) || !IsFinite(to))
+    return nullptr;
+  Shape* path = JoinOpenPath(from.GetX(), from.GetY());
+  return path != nullptr ? path : &StartPath(from.GetX(), from.GetY());
+}
+
 void KCC_SvgCanvas::LineTo(const KC2DPoint& point) {
-  const double fromX = m_current.GetX();
-  const double fromY = m_current.GetY();
-  m_current = point;
-  const double toX = point.GetX();
-  const double toY = point.GetY();
-  if (!std::isfinite(fromX) || !std::isfinite(fromY) || !std::isfinite(toX) || !std::isfinite(toY))
-    return;
-  Shape* path = JoinOpenPath(fromX, fromY);
-  if (path == nullptr)
-    path = &StartPath(fromX, fromY);
-  m_points.push_back({toX, toY});
-  path->count += 1;
+  if (Shape* path = BeginStep(point, true)) {
+    m_points.push_back({point.GetX(), point.GetY()});
+    path->count += 1;
+  }
 }
 
 void KCC_SvgCanvas::ArcTo(const KC2DPoint& end, double radius, bool largeArc, bool clockwise) {
-  const double fromX = m_current.GetX();
-  const double fromY = m_current.GetY();
-  m_current = end;
-  const double toX = end.GetX();
-  const double toY = end.GetY();
-  if (!std::isfinite(fromX) || !std::isfinite(fromY) || !std::isfinite(toX) || !std::isfinite(toY) ||
-      !std::isfinite(radius) || (fromX == toX && fromY == toY))
-    return;
-  Shape* path = JoinOpenPath(fromX, fromY);
-  if (path == nullptr)
-    path = &StartPath(fromX, fromY);
-  const double mark = 1.0 + (largeArc ? 1.0 : 0.0) + (clockwise ? 2.0 : 0.0);
-  const double r = std::fabs(radius);
-  m_points.push_back({std::numeric_limits<double>::quiet_NaN(), mark});
-  m_points.push_back({r, r});
-  m_points.push_back({toX, toY});
-  path->count += 3;
+  if (Shape* path = BeginStep(end, std::isfinite(radius) && end != m_current)) {
+    const double mark = 1.0 + (largeArc ? 1.0 : 0.0) + (clockwise ? 2.0 : 0.0);
+    const double r = std::fabs(radius);
+    m_points.push_back({std::numeric_limits<double>::quiet_NaN(), mark});
+    m_points.push_back({r, r});
+    m_points.push_back({end.GetX(), end.GetY()});
+    path->count += 3;
+  }
 }
 
 void KCC_SvgCanvas::ReservePoints(std::size_t count) {

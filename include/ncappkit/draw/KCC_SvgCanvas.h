@@ -248,6 +248,10 @@ class NCAPPKIT_EXPORT KCC_SvgCanvas : public KCCanvas {
   Shape* JoinOpenPath(double x, double y);
   // Start a new path at (x, y); returns it.
   Shape& StartPath(double x, double y);
+  // A step of a path from the current point to `to`: moves the current point and returns the path the step
+  // extends (the open one, or a new one), or nullptr when the step draws nothing (`drawable` false or a
+  // point not finite).
+  Shape* BeginStep(const KC2DPoint& to, bool drawable);
   // One shape's element lines, each indented by `indent` spaces.
   void WriteShape(std::string& out, const Shape& shape, std::size_t indent) const;
 

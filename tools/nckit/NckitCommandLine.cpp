@@ -4,12 +4,15 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
+#include <limits>
 #include <ostream>
 #include <system_error>
 #include <utility>
 
 #include <CLI/CLI.hpp>
 
+#include "ncappkit/foundation/KCString.h"
 #include "ncappkit/nc/KCC_NcFile.h"
 
 namespace {
@@ -232,6 +235,13 @@ void NckitCommandLine::WriteHelp(std::ostream& out) const {
       out << (c == '\n' ? "\n" + std::string(names.size(), ' ') : std::string(1, c));
     out << '\n';
   }
+}
+
+std::optional<double> ParseRealArgument(const std::string& text) {
+  const double value = KCString(text).AsDoubleStrict(std::numeric_limits<double>::quiet_NaN());
+  if (!std::isfinite(value))
+    return std::nullopt;
+  return value;
 }
 
 bool ParseProgramNumberArgument(const std::string& text, int& number) {

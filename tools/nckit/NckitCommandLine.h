@@ -77,6 +77,9 @@ class NckitCommandLine {
   std::unique_ptr<Impl> m_impl;
 };
 
+/// A finite real number written in `text` (locale-free, the whole text), or nothing.
+std::optional<double> ParseRealArgument(const std::string& text);
+
 /// Parse a program number argument ("1000", "O1000", ":0012"); false when it is none.
 bool ParseProgramNumberArgument(const std::string& text, int& number);
 

@@ -56,14 +56,6 @@ const char kPatternHelp[] =
     "  --json         write one JSON array of [x, y] pairs\n"
     "Try 'nckit pattern KIND --help' for the options of one kind.\n";
 
-// A finite real number, or nothing.
-std::optional<double> ParseReal(const std::string& text) {
-  const double value = KCString(text).AsDoubleStrict(std::numeric_limits<double>::quiet_NaN());
-  if (!std::isfinite(value))
-    return std::nullopt;
-  return value;
-}
-
 // A whole number in [minimum, INT_MAX] (an optional leading '+' aside, digits only), or nothing.
 std::optional<int> ParseWhole(const std::string& text, long long minimum) {
   const char* first = text.data();
@@ -102,7 +94,7 @@ std::optional<int> RequireReal(const NckitCommandLine& cl, const std::string& na
       return cl.UsageError("missing " + name, err);
     return std::nullopt;
   }
-  const std::optional<double> parsed = ParseReal(text);
+  const std::optional<double> parsed = ParseRealArgument(text);
   if (!parsed)
     return cl.UsageError(name + " '" + text + "' is not a finite number", err);
   value = *parsed;
@@ -277,9 +269,9 @@ int RunPattern(const NckitArgs& args, std::ostream& out, std::ostream& err) {
   if (cl->Given("--origin")) {
     const std::size_t comma = common.origin.find(',');
     const std::optional<double> ox =
-        comma == std::string::npos ? std::nullopt : ParseReal(common.origin.substr(0, comma));
+        comma == std::string::npos ? std::nullopt : ParseRealArgument(common.origin.substr(0, comma));
     const std::optional<double> oy =
-        comma == std::string::npos ? std::nullopt : ParseReal(common.origin.substr(comma + 1));
+        comma == std::string::npos ? std::nullopt : ParseRealArgument(common.origin.substr(comma + 1));
     if (!ox || !oy)
       return cl->UsageError("--origin '" + common.origin + "' is not two finite numbers X,Y", err);
     originX = *ox;

@@ -245,9 +245,10 @@ int RunPlot(const NckitArgs& args, std::ostream& out, std::ostream& err) {
   }
   double rate = KCC_NcToolPath::kDefaultRapidRate;
   if (cl.Given("--rapid-rate")) {
-    rate = KCString(rapidRate).AsDoubleStrict(std::numeric_limits<double>::quiet_NaN());
-    if (!std::isfinite(rate) || rate <= 0.0)
+    const std::optional<double> parsed = ParseRealArgument(rapidRate);
+    if (!parsed || *parsed <= 0.0)
       return cl.UsageError("--rapid-rate '" + rapidRate + "' is not a positive number of mm/min", err);
+    rate = *parsed;
   }
   const bool toFile = cl.Given("-o");
   if (toFile) {

@@ -5,10 +5,14 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
+#include <limits>
 #include <map>
 #include <memory>
+#include <new>
 #include <string>
+#include <type_traits>
 #include <unordered_map>
 #include <utility>
 
@@ -448,7 +452,7 @@ class KCC_NcToolPath::Run {
   void Execute(const KCC_NcFileProgram& program) {
     const std::uint32_t index =
         IndexOf(&program, program.GetProgramNumber(), ProgramName(program.GetProgramNumber()));
-    m_out.m_segments.reserve(std::min(program.GetStringList().size(), m_out.m_maxSegments));
+    m_out.m_segments.Reserve(std::min(program.GetStringList().size(), m_out.m_maxSegments));
     m_stack.push_back(Frame{&program, index, 0, 1});
     while (!m_stack.empty() && !m_stopped) {
       Frame& frame = m_stack.back();
@@ -623,9 +627,12 @@ class KCC_NcToolPath::Run {
     if (m_stopped)
       return;
     m_blockKinds.clear();
-    NcWordScanner scan(line.c_str(), line.size());
     m_block.Reset();
     Block& b = m_block;
+    if (ExecutePlainLine(line))
+      return;
+    m_block.Reset();
+    NcWordScanner scan(line.c_str(), line.size());
     NcWord w;
     bool first = true;
     bool any = false;
@@ -718,6 +725,36 @@ class KCC_NcToolPath::Run {
     }
     if (any && !b.skip)
       ExecuteBlock(b);
+  }
+
+  // A block of plain address words only (nearly every block of a generated program) is read by the
+  // scanner's short way, straight into the block. False, with nothing done, for any other block, and for a
+  // plain block that would need a warning (a letter given twice, too many G or M words): the full reading
+  // then takes it.
+  bool ExecutePlainLine(const KCString& line) {
+    NcWordScanner::PlainWord words[NcWordScanner::kMaxPlainWords];
+    const int count = NcWordScanner::ReadPlainBlock(line.c_str(), line.size(), words);
+    if (count < 0)
+      return false;
+    Block& b = m_block;
+    for (int i = 0; i < count; ++i) {
+      const char letter = words[i].letter;
+      if (letter == 'G' || letter == 'M') {
+        int& n = letter == 'G' ? b.gCount : b.mCount;
+        if (n == Block::kMaxCodes)
+          return false;
+        (letter == 'G' ? b.g : b.m)[n++] = words[i].number;
+        continue;
+      }
+      const int slot = letter - 'A';
+      if (b.has[slot])
+        return false;
+      b.has[slot] = true;
+      b.value[slot] = words[i].number;
+    }
+    if (count > 0)
+      ExecuteBlock(b);
+    return true;
   }
 
   void SetHashParameter(const NcWord& w) {
@@ -1012,7 +1049,7 @@ class KCC_NcToolPath::Run {
     s.plane = static_cast<std::uint8_t>(kind == kArcCW || kind == kArcCCW ? m_plane : 0);
     s.flags = flags;
     s.reserved = 0;
-    m_out.m_segments.push_back(s);
+    m_out.m_segments.Append(s);
     Include(start);
     Include(end);
     return true;
@@ -1253,9 +1290,7 @@ class KCC_NcToolPath::Run {
 
   void Finish() {
     // The list was reserved for one segment per line; give back what a program with fewer moves left over.
-    std::vector<Segment>& segments = m_out.m_segments;
-    if (segments.capacity() - segments.size() > segments.size() / 8)
-      segments.shrink_to_fit();
+    m_out.m_segments.Trim();
     m_out.m_hasExtents = m_any;
     if (m_any) {
       for (int i = 0; i < 3; ++i) {
@@ -1315,6 +1350,72 @@ class KCC_NcToolPath::Run {
 
 static_assert(sizeof(KCC_NcToolPath::Segment) <= 64, "a segment must stay within 64 bytes");
 
+// --- SegmentList --------------------------------------------------------------------------------------------
+
+static_assert(std::is_trivially_copyable<KCC_NcToolPath::Segment>::value,
+              "segments are moved by realloc and copied by memcpy");
+
+KCC_NcToolPath::SegmentList::SegmentList(const SegmentList& other) {
+  Reserve(other.m_size);
+  if (other.m_size > 0)
+    std::memcpy(m_data, other.m_data, other.m_size * sizeof(Segment));
+  m_size = other.m_size;
+}
+
+KCC_NcToolPath::SegmentList& KCC_NcToolPath::SegmentList::operator=(const SegmentList& other) {
+  if (this != &other) {
+    SegmentList copy(other);
+    std::swap(m_data, copy.m_data);
+    std::swap(m_size, copy.m_size);
+    std::swap(m_capacity, copy.m_capacity);
+  }
+  return *this;
+}
+
+KCC_NcToolPath::SegmentList::~SegmentList() {
+  Release();
+}
+
+void KCC_NcToolPath::SegmentList::Reserve(std::size_t count) {
+  if (count <= m_capacity)
+    return;
+  if (count > std::numeric_limits<std::size_t>::max() / sizeof(Segment))
+    throw std::bad_alloc();
+  void* grown = std::realloc(m_data, count * sizeof(Segment));
+  if (grown == nullptr)
+    throw std::bad_alloc();
+  m_data = static_cast<Segment*>(grown);
+  m_capacity = count;
+}
+
+void KCC_NcToolPath::SegmentList::Grow() {
+  Reserve(m_capacity < 64 ? 64 : m_capacity + m_capacity / 2);
+}
+
+void KCC_NcToolPath::SegmentList::Trim() noexcept {
+  if (m_size == m_capacity)
+    return;
+  if (m_size == 0) {
+    Release();
+    return;
+  }
+  // Shrinking keeps the block where it is; should realloc still fail, the larger block is kept.
+  void* trimmed = std::realloc(m_data, m_size * sizeof(Segment));
+  if (trimmed != nullptr) {
+    m_data = static_cast<Segment*>(trimmed);
+    m_capacity = m_size;
+  }
+}
+
+void KCC_NcToolPath::SegmentList::Release() noexcept {
+  std::free(m_data);
+  m_data = nullptr;
+  m_size = 0;
+  m_capacity = 0;
+}
+
+// --- KCC_NcToolPath -------------------------------------------------------------------------------------------
+
 KCC_NcToolPath::KCC_NcToolPath() = default;
 KCC_NcToolPath::KCC_NcToolPath(const KCC_NcToolPath& other) = default;
 KCC_NcToolPath& KCC_NcToolPath::operator=(const KCC_NcToolPath& other) = default;
@@ -1371,8 +1472,7 @@ bool KCC_NcToolPath::Interpret(KCC_NcFile& file, const KCC_NcFileProgram& progra
 }
 
 void KCC_NcToolPath::Clear() {
-  m_segments.clear();
-  m_segments.shrink_to_fit();
+  m_segments.Release();
   m_programNumbers.clear();
   m_programNames.clear();
   m_hasExtents = false;
@@ -1390,7 +1490,7 @@ void KCC_NcToolPath::Clear() {
   m_kinds.clear();
 }
 
-const std::vector<KCC_NcToolPath::Segment>& KCC_NcToolPath::GetSegments() const {
+const KCC_NcToolPath::SegmentList& KCC_NcToolPath::GetSegments() const {
   return m_segments;
 }
 std::size_t KCC_NcToolPath::GetSegmentCount() const {

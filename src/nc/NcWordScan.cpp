@@ -82,6 +82,43 @@ bool NcWordScanner::ReadNumber(const char* text, std::size_t length, double& val
   return true;
 }
 
+int NcWordScanner::ReadPlainBlock(const char* text, std::size_t length, PlainWord* words) noexcept {
+  int count = 0;
+  std::size_t i = 0;
+  // A program-number line ("O1000", ":1000") makes no words; plain words never start with O.
+  while (i < length && (text[i] == ' ' || text[i] == '\t'))
+    ++i;
+  if (i < length && (text[i] == 'O' || text[i] == 'o'))
+    return -1;
+  while (i < length) {
+    const char c = text[i];
+    if (c == ' ' || c == '\t') {
+      ++i;
+      continue;
+    }
+    // A word: a letter, then a number at once; a second letter would make a name.
+    if (!IsLetterChar(c) || i + 1 >= length)
+      return -1;
+    const char letter = Upper(c);
+    ++i;
+    if (letter == 'N' && IsDigitChar(text[i])) {
+      while (i < length && IsDigitChar(text[i]))
+        ++i;  // the block number
+    } else {
+      double number = 0.0;
+      std::size_t used = 0;
+      if (count == kMaxPlainWords || !ReadNumber(text + i, length - i, number, used))
+        return -1;
+      i += used;
+      words[count++] = PlainWord{letter, number};
+    }
+    // The word ends at a blank, the next letter or the end of the block; "R10 = 5" fails at the '='.
+    if (i < length && text[i] != ' ' && text[i] != '\t' && !IsLetterChar(text[i]))
+      return -1;
+  }
+  return count;
+}
+
 void NcWordScanner::SkipBlanks() noexcept {
   while (m_i < m_n && IsSpaceChar(m_p[m_i]))
     ++m_i;

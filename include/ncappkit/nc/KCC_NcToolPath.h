@@ -118,6 +118,65 @@ class NCAPPKIT_EXPORT KCC_NcToolPath {
     std::uint8_t reserved;  ///< always 0
   };
 
+ private:
+  class Run;  // the working state of one Interpret call, defined with it
+
+ public:
+  /// The segments of a run, read-only: an array in one block of memory (begin/end, size, operator[]).
+  /// Segments are plain data, so the block grows and is trimmed with the C allocator's realloc, which on
+  /// most systems resizes a large block in place or by remapping its pages: a long path is not copied when
+  /// it outgrows its reserve, and the reserve it did not use is given back at the end of the run.
+  class NCAPPKIT_EXPORT SegmentList {
+   public:
+    /// No segments.
+    SegmentList() noexcept = default;
+    /// Copies the segments into a block of their own size.
+    SegmentList(const SegmentList& other);
+    /// Copies the segments; returns *this.
+    SegmentList& operator=(const SegmentList& other);
+    ~SegmentList();
+
+    /// The first segment (nullptr when there is none).
+    const Segment* begin() const noexcept { return m_data; }
+    /// Just past the last segment.
+    const Segment* end() const noexcept { return m_data + m_size; }
+    /// The array of size() segments.
+    const Segment* data() const noexcept { return m_data; }
+    /// Number of segments.
+    std::size_t size() const noexcept { return m_size; }
+    /// Number of segments the block holds room for.
+    std::size_t capacity() const noexcept { return m_capacity; }
+    /// True when there is no segment.
+    bool empty() const noexcept { return m_size == 0; }
+    /// Segment `index` (below size()).
+    const Segment& operator[](std::size_t index) const noexcept { return m_data[index]; }
+    /// The first segment (the list must not be empty).
+    const Segment& front() const noexcept { return m_data[0]; }
+    /// The last segment (the list must not be empty).
+    const Segment& back() const noexcept { return m_data[m_size - 1]; }
+
+   private:
+    friend class KCC_NcToolPath;
+    friend class Run;
+    // Room for `count` segments at least; throws std::bad_alloc when there is no memory.
+    void Reserve(std::size_t count);
+    // Appends one segment, growing the block by half its size when full.
+    void Append(const Segment& segment) {
+      if (m_size == m_capacity)
+        Grow();
+      m_data[m_size++] = segment;
+    }
+    void Grow();
+    // Gives back the room beyond size() (all of the block when empty).
+    void Trim() noexcept;
+    // No segments and no block.
+    void Release() noexcept;
+
+    Segment* m_data = nullptr;
+    std::size_t m_size = 0;
+    std::size_t m_capacity = 0;
+  };
+
   /// A warning or a not-interpreted entry: where, and what.
   struct Note {
     std::uint32_t program = 0;  ///< program index, as in Segment::program
@@ -189,7 +248,7 @@ class NCAPPKIT_EXPORT KCC_NcToolPath {
   void Clear();
 
   /// The segments in the order the machine runs them.
-  const std::vector<Segment>& GetSegments() const;
+  const SegmentList& GetSegments() const;
   /// Number of segments.
   std::size_t GetSegmentCount() const;
   /// Number of programs the run entered (segment and note program indices are below it).
@@ -231,7 +290,6 @@ class NCAPPKIT_EXPORT KCC_NcToolPath {
   static const char* GetKindName(int kind);
 
  private:
-  class Run;
   friend class Run;
 
   KCString m_folder;
@@ -242,7 +300,7 @@ class NCAPPKIT_EXPORT KCC_NcToolPath {
   bool m_skipDeletable = false;
   double m_startPoint[3] = {0.0, 0.0, 0.0};
 
-  std::vector<Segment> m_segments;
+  SegmentList m_segments;
   std::vector<int> m_programNumbers;
   KCStringList m_programNames;
   bool m_hasExtents = false;

@@ -72,6 +72,7 @@ std::string InterpretAndPlot(Subject& subject, bool plot) {
   for (int i = 0; i < file.GetNumberOfMainPrograms(); ++i) {
     KCC_NcFileProgram* program = file.GetMainProgList().GetProgram(i);
     auto path = std::make_unique<KCC_NcToolPath>();
+    path->SetReadAhead(true);  // as nckit plot does
     path->SetMaxSegments(kPlotMaxSegments - segments);
     path->SetStartPoint(start[0], start[1], start[2]);
     path->Interpret(file, *program);

@@ -4,14 +4,18 @@
 
 #include <algorithm>
 #include <cmath>
+#include <condition_variable>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <exception>
 #include <limits>
 #include <map>
 #include <memory>
+#include <mutex>
 #include <new>
 #include <string>
+#include <thread>
 #include <type_traits>
 #include <unordered_map>
 #include <utility>
@@ -42,6 +46,11 @@ constexpr double kAngleTolerance = 1e-12;
 
 constexpr double kPi = 3.14159265358979323846;
 constexpr double kMmPerInch = 25.4;
+// A program of at least this many lines is read ahead on a second thread when that is switched on; below it
+// starting the thread would cost more than it saves.
+constexpr std::size_t kReadAheadMinLines = 20000;
+// ExecuteLine's word count for a line not read ahead.
+constexpr int kNotRead = -2;
 // Deepest bracket nesting an expression may have (keeps the recursive reader's stack small).
 constexpr int kMaxExpressionDepth = 64;
 
@@ -437,6 +446,118 @@ double Normalise(double angle) {
 
 }  // namespace
 
+// Reads the plain blocks of one program's lines (NcWordScanner::ReadPlainBlock) on a second thread, a chunk
+// of lines at a time, ahead of the interpreter, which then takes each line's words instead of reading the
+// line itself: reading the text is about half of interpreting a generated program, and the two halves run
+// side by side. The lines are taken in increasing order; the reader stays at most kChunks chunks ahead.
+class PlainReadAhead {
+ public:
+  using PlainWord = NcWordScanner::PlainWord;
+  static constexpr std::size_t kChunkLines = 4096;
+  static constexpr std::size_t kChunks = 4;
+
+  // Starts the reader over `lines`, which must stay unchanged while the object lives; throws what
+  // std::thread and the allocation throw when they fail (the caller then reads the lines itself).
+  explicit PlainReadAhead(const KCStringList& lines) : m_lines(lines), m_chunks(kChunks) {
+    for (Chunk& chunk : m_chunks) {
+      chunk.counts.resize(kChunkLines);
+      chunk.offsets.resize(kChunkLines);
+      chunk.words.resize(kChunkLines * kWordsPerLine);
+    }
+    m_thread = std::thread([this] { ReadAll(); });
+  }
+  ~PlainReadAhead() {
+    {
+      std::lock_guard<std::mutex> lock(m_mutex);
+      m_stop = true;
+    }
+    m_changed.notify_all();
+    m_thread.join();
+  }
+  PlainReadAhead(const PlainReadAhead&) = delete;
+  PlainReadAhead& operator=(const PlainReadAhead&) = delete;
+
+  // The words of line `index` as ReadPlainBlock gives them: their number, or -1 when the block is not plain.
+  // False when the reader does not have the line (an index before the chunk taken last, or a line the reader
+  // had no room for): the caller reads it itself.
+  bool Take(std::size_t index, int& count, const PlainWord*& words) {
+    const std::size_t chunk = index / kChunkLines;
+    if (chunk != m_taken) {
+      if (m_taken != kNone && chunk < m_taken)
+        return false;
+      std::unique_lock<std::mutex> lock(m_mutex);
+      m_taken = chunk;
+      m_released = chunk;  // the chunks before it are not needed any more
+      m_changed.notify_all();
+      m_changed.wait(lock, [&] { return m_read > chunk; });
+    }
+    const Chunk& c = m_chunks[chunk % kChunks];
+    const std::size_t line = index % kChunkLines;
+    count = c.counts[line];
+    if (count == kNoRoom)
+      return false;
+    words = c.words.data() + c.offsets[line];
+    return true;
+  }
+
+ private:
+  static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
+  static constexpr std::size_t kWordsPerLine = 8;  // room per line on average; a full chunk leaves the rest
+  static constexpr int kNoRoom = -2;
+
+  struct Chunk {
+    std::vector<int> counts;
+    std::vector<std::size_t> offsets;
+    std::vector<PlainWord> words;
+  };
+
+  void ReadAll() {
+    const std::size_t chunks = (m_lines.size() + kChunkLines - 1) / kChunkLines;
+    for (std::size_t k = 0; k < chunks; ++k) {
+      {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        m_changed.wait(lock, [&] { return m_stop || k < m_released + kChunks; });
+        if (m_stop)
+          return;
+      }
+      Fill(m_chunks[k % kChunks], k * kChunkLines);
+      {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        m_read = k + 1;
+      }
+      m_changed.notify_all();
+    }
+  }
+
+  void Fill(Chunk& chunk, std::size_t first) {
+    const std::size_t end = std::min(m_lines.size(), first + kChunkLines);
+    std::size_t used = 0;
+    for (std::size_t i = first; i < end; ++i) {
+      const std::size_t line = i - first;
+      if (chunk.words.size() - used < NcWordScanner::kMaxPlainWords) {
+        chunk.counts[line] = kNoRoom;
+        continue;
+      }
+      const KCString& text = m_lines[i];
+      const int count = NcWordScanner::ReadPlainBlock(text.c_str(), text.size(), chunk.words.data() + used);
+      chunk.counts[line] = count;
+      chunk.offsets[line] = used;
+      if (count > 0)
+        used += static_cast<std::size_t>(count);
+    }
+  }
+
+  const KCStringList& m_lines;
+  std::vector<Chunk> m_chunks;
+  std::size_t m_taken = kNone;  // the chunk the interpreter takes lines from (its thread only)
+  std::mutex m_mutex;
+  std::condition_variable m_changed;
+  std::size_t m_read = 0;      // chunks read so far
+  std::size_t m_released = 0;  // chunks before this one may be overwritten
+  bool m_stop = false;
+  std::thread m_thread;
+};
+
 // One run of the interpreter: the modal state, the call stack and the caches, alive during Interpret.
 class KCC_NcToolPath::Run {
  public:
@@ -454,6 +575,14 @@ class KCC_NcToolPath::Run {
         IndexOf(&program, program.GetProgramNumber(), ProgramName(program.GetProgramNumber()));
     m_out.m_segments.Reserve(std::min(program.GetStringList().size(), m_out.m_maxSegments));
     m_stack.push_back(Frame{&program, index, 0, 1});
+    std::unique_ptr<PlainReadAhead> readAhead;
+    if (m_out.m_readAhead && program.GetStringList().size() >= kReadAheadMinLines) {
+      try {
+        readAhead = std::make_unique<PlainReadAhead>(program.GetStringList());
+      } catch (const std::exception&) {
+        readAhead.reset();  // no second thread: the lines are read here
+      }
+    }
     while (!m_stack.empty() && !m_stopped) {
       Frame& frame = m_stack.back();
       const KCStringList& lines = frame.program->GetStringList();
@@ -465,8 +594,14 @@ class KCC_NcToolPath::Run {
       }
       const std::size_t at = frame.next++;
       m_line = static_cast<std::int32_t>(std::min<std::size_t>(at + 1, 0x7FFFFFFF));
-      ExecuteLine(lines[at]);
+      int count = 0;
+      const NcWordScanner::PlainWord* words = nullptr;
+      if (readAhead && m_stack.size() == 1 && readAhead->Take(at, count, words))
+        ExecuteLine(lines[at], count, words);
+      else
+        ExecuteLine(lines[at], kNotRead, nullptr);
     }
+    readAhead.reset();
     Finish();
   }
 
@@ -622,14 +757,21 @@ class KCC_NcToolPath::Run {
     return false;
   }
 
-  void ExecuteLine(const KCString& line) {
+  // Runs one line. `plainCount` and `plainWords` are the line's plain words read ahead (a count of -1: the
+  // line is not plain), or kNotRead.
+  void ExecuteLine(const KCString& line, int plainCount, const NcWordScanner::PlainWord* plainWords) {
     CountBlock();
     if (m_stopped)
       return;
     m_blockKinds.clear();
     m_block.Reset();
     Block& b = m_block;
-    if (ExecutePlainLine(line))
+    NcWordScanner::PlainWord words[NcWordScanner::kMaxPlainWords];
+    if (plainCount == kNotRead) {
+      plainCount = NcWordScanner::ReadPlainBlock(line.c_str(), line.size(), words);
+      plainWords = words;
+    }
+    if (plainCount >= 0 && ExecutePlainBlock(plainCount, plainWords))
       return;
     m_block.Reset();
     NcWordScanner scan(line.c_str(), line.size());
@@ -727,15 +869,10 @@ class KCC_NcToolPath::Run {
       ExecuteBlock(b);
   }
 
-  // A block of plain address words only (nearly every block of a generated program) is read by the
-  // scanner's short way, straight into the block. False, with nothing done, for any other block, and for a
-  // plain block that would need a warning (a letter given twice, too many G or M words): the full reading
-  // then takes it.
-  bool ExecutePlainLine(const KCString& line) {
-    NcWordScanner::PlainWord words[NcWordScanner::kMaxPlainWords];
-    const int count = NcWordScanner::ReadPlainBlock(line.c_str(), line.size(), words);
-    if (count < 0)
-      return false;
+  // A block of plain address words only (nearly every block of a generated program), read by the scanner's
+  // short way, goes straight into the block. False, with the block to be reset, for a plain block that would
+  // need a warning (a letter given twice, too many G or M words): the full reading then takes it.
+  bool ExecutePlainBlock(int count, const NcWordScanner::PlainWord* words) {
     Block& b = m_block;
     for (int i = 0; i < count; ++i) {
       const char letter = words[i].letter;
@@ -1452,6 +1589,13 @@ void KCC_NcToolPath::SetMaxCallDepth(int depth) {
 int KCC_NcToolPath::GetMaxCallDepth() const {
   return m_maxCallDepth;
 }
+void KCC_NcToolPath::SetReadAhead(bool on) {
+  m_readAhead = on;
+}
+bool KCC_NcToolPath::GetReadAhead() const {
+  return m_readAhead;
+}
+
 void KCC_NcToolPath::SetSkipDeletableBlocks(bool skip) {
   m_skipDeletable = skip;
 }

@@ -3,6 +3,7 @@
 // every other block word by word. A comment at the end of a block sends it the long way without changing
 // what it says, so each row is interpreted twice, as written and with " (C)" after every block, and both
 // results must agree to the last bit: segments, warnings, not-interpreted entries, extents, lengths, time.
+// Long programs may also be read ahead on a second thread, which must not change the result either.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -84,3 +85,85 @@ INSTANTIATE_TEST_SUITE_P(
         PlainBlockCase{"InchInput", {"G20", "G1 X1.5 Y-0.25 F20", "G21 X3"}},
         PlainBlockCase{"ProgramEndInTheMiddle", {"G1 X1 F10", "M30", "G1 X5"}}),
     [](const ::testing::TestParamInfo<PlainBlockCase>& row) { return std::string(row.param.name); });
+
+// --- reading ahead on a second thread ----------------------------------------------------------------------
+
+namespace {
+
+// A long main program (above the read-ahead threshold) of plain moves, with calls of a sub-program, comments,
+// parameter lines, a letter given twice and a run of blocks with many words; then the sub-program O2.
+std::vector<std::string> LongProgram(int blocks, int endAt) {
+  std::vector<std::string> lines{"O1", "G90 G17 G21 T1 M6 F800"};
+  for (int i = 0; i < blocks; ++i) {
+    const std::string x = std::to_string((i * 37) % 2000 - 1000) + "." + std::to_string(i % 10);
+    const std::string y = std::to_string((i * 53) % 1600 - 800);
+    if (i == endAt)
+      lines.push_back("M30");
+    else if (i % 997 == 0)
+      lines.push_back("M98 P2 L2");
+    else if (i % 101 == 0)
+      lines.push_back("(CONTOUR " + std::to_string(i) + ")");
+    else if (i % 211 == 0)
+      lines.push_back("#" + std::to_string(100 + i % 50) + " = " + x);
+    else if (i == 5000)
+      lines.push_back("G1 X1 X2");
+    else if (i >= 12000 && i < 14000)  // more words than a chunk has room for on average
+      lines.push_back("G1 X" + x + " Y" + y + " Z1 A0 B0 C0 U0 V0 W0 E0 H0 D0 S100 M8 M9 M7 M8 M9 M7 M8");
+    else
+      lines.push_back((i % 7 == 0 ? "G0 X" : "G1 X") + x + " Y" + y);
+  }
+  lines.push_back("M30");
+  lines.push_back("O2");
+  lines.push_back("G91 G1 X1 Y1");
+  lines.push_back("G90 M99");
+  return lines;
+}
+
+KCC_NcToolPath InterpretWithReadAhead(const std::vector<std::string>& lines, bool readAhead,
+                                      std::size_t maxSegments = KCC_NcToolPath::kDefaultMaxSegments) {
+  KCC_NcToolPath path;
+  path.SetReadAhead(readAhead);
+  path.SetMaxSegments(maxSegments);
+  toolpath_test::InterpretLines(lines, path);
+  return path;
+}
+
+}  // namespace
+
+TEST(KccNcToolPathReadAhead, IsOffByDefault) {
+  const KCC_NcToolPath path;
+
+  EXPECT_FALSE(path.GetReadAhead());
+}
+
+TEST(KccNcToolPathReadAhead, GivesTheSameResultAsReadingEachLineInTurn) {
+  const std::vector<std::string> lines = LongProgram(40000, -1);
+
+  const KCC_NcToolPath ahead = InterpretWithReadAhead(lines, true);
+  const KCC_NcToolPath inTurn = InterpretWithReadAhead(lines, false);
+
+  ASSERT_GT(ahead.GetSegmentCount(), 30000u);
+  EXPECT_EQ(Describe(ahead), Describe(inTurn));
+  EXPECT_EQ(Numbers(ahead), Numbers(inTurn));
+  EXPECT_EQ(ahead.GetBlockCount(), inTurn.GetBlockCount());
+}
+
+TEST(KccNcToolPathReadAhead, ProgramEndEarlyStopsTheReader) {
+  const std::vector<std::string> lines = LongProgram(40000, 150);
+
+  const KCC_NcToolPath ahead = InterpretWithReadAhead(lines, true);
+
+  EXPECT_TRUE(ahead.IsComplete());
+  EXPECT_EQ(Describe(ahead), Describe(InterpretWithReadAhead(lines, false)));
+  EXPECT_LT(ahead.GetSegmentCount(), 160u);
+}
+
+TEST(KccNcToolPathReadAhead, SegmentLimitStopsTheReaderWithTheSameResult) {
+  const std::vector<std::string> lines = LongProgram(40000, -1);
+
+  const KCC_NcToolPath ahead = InterpretWithReadAhead(lines, true, 10000);
+
+  EXPECT_FALSE(ahead.IsComplete());
+  EXPECT_EQ(ahead.GetSegmentCount(), 10000u);
+  EXPECT_EQ(Describe(ahead), Describe(InterpretWithReadAhead(lines, false, 10000)));
+}

@@ -610,8 +610,10 @@ class Plotter {
           holeNumbers[at - holeStart] = ++holes;
       }
     }
-    // A line is one point, a consistent arc three or six; spirals grow the array as they need.
-    m_canvas.ReservePoints(total + 2 * (m_summary.arcs + m_summary.holes));
+    // In a layer consecutive segments seldom touch, so each may start with a move: a line takes at most three
+    // points, a consistent arc eight (a move, two half arcs), a hole's line three and its marker's lines
+    // two each. Spirals grow the array as they need.
+    m_canvas.ReservePoints(3 * total + 5 * (m_summary.arcs + m_summary.holes));
     for (std::size_t layer = 0; layer < kLayerKinds * tools; ++layer) {
       if (start[layer] == start[layer + 1])
         continue;

@@ -284,6 +284,7 @@ int RunPlot(const NckitArgs& args, std::ostream& out, std::ostream& err) {
     auto toolPath = std::make_unique<KCC_NcToolPath>();
     toolPath->SetSubProgramFolder(folder);
     toolPath->SetRapidRate(rate);
+    toolPath->SetReadAhead(true);  // a long program is read on a second thread while it runs
     toolPath->SetMaxSegments(kPlotMaxSegments - segments);
     toolPath->SetStartPoint(start[0], start[1], start[2]);
     toolPath->Interpret(file, *program);

@@ -94,9 +94,11 @@ class NCAPPKIT_EXPORT KCC_SvgCanvas : public KCCanvas {
   /// radius is not finite, or when `end` is the current point (split a full circle in two).
   void ArcTo(const KC2DPoint& end, double radius, bool largeArc, bool clockwise);
 
-  /// Make room for `count` more path and polygon points (a line takes one, an arc three), so that a picture
-  /// of known size is recorded without the point array growing step by step. A count too large to hold is
-  /// ignored; std::bad_alloc when memory runs out.
+  /// Make room for `count` more path and polygon points, so that a picture of known size is recorded without
+  /// the point array growing step by step. A line that continues the open path takes one, an arc three; a
+  /// step that starts a path takes one more, and one that leaves the path's last point two more (a move).
+  /// Room reserved and not used costs address space only. A count too large to hold is ignored;
+  /// std::bad_alloc when memory runs out.
   void ReservePoints(std::size_t count);
 
   /// Start a group: the shapes drawn until the matching EndGroup become children of one group element

@@ -63,6 +63,10 @@
 // - The geometry is that of a mill as programmed: no tool radius or length compensation, work offset,
 //   rotation or scaling is applied, and X is never a diameter (a lathe program draws at twice its radius).
 // - The run starts at the start point (default 0,0,0) in G0 G17 G90 G98 G21 with no tool, feed 0.
+// - SetReadAhead(true) lets a second thread read the blocks of a long program (20,000 lines or more) while
+//   the interpreter runs the ones before: about half the time of a generated program is reading its text.
+//   The thread only reads the program's lines (which must not change during Interpret) and ends with the
+//   run; the result is the same as without it. Off by default: the library starts no thread unasked.
 // - Segments hold single-precision coordinates (about 0.01 mm resolution at 100 m); extents, lengths and
 //   the run time are computed in double precision.
 // See docs/behaviours.md#tool-paths.
@@ -233,6 +237,11 @@ class NCAPPKIT_EXPORT KCC_NcToolPath {
   void SetMaxCallDepth(int depth);
   /// The call-depth limit.
   int GetMaxCallDepth() const;
+  /// true: a program of many lines (20,000 or more) has its blocks read on a second thread, ahead of the
+  /// interpreter, which then runs them (see the rules); false (default): no thread is started.
+  void SetReadAhead(bool on);
+  /// True when long programs are read ahead on a second thread.
+  bool GetReadAhead() const;
   /// true: blocks starting with '/' are skipped (the block-delete switch on); false (default): they run.
   void SetSkipDeletableBlocks(bool skip);
   /// True when blocks starting with '/' are skipped.
@@ -298,6 +307,7 @@ class NCAPPKIT_EXPORT KCC_NcToolPath {
   std::uint64_t m_maxBlocks = kDefaultMaxBlocks;
   int m_maxCallDepth = kDefaultMaxCallDepth;
   bool m_skipDeletable = false;
+  bool m_readAhead = false;
   double m_startPoint[3] = {0.0, 0.0, 0.0};
 
   SegmentList m_segments;

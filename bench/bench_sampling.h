@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Timing helpers shared by the benchmarks that compare two sides in one process: each sample's wall and
-// thread CPU time, the allocator clean-up every sample pays for itself, and the minimum and median.
+// Timing helpers shared by the benchmarks that compare two sides in one process: each sample's wall, thread
+// CPU and process CPU time, the allocator clean-up every sample pays for itself, and the minimum and median.
 //
 //   bench_sampling::Samples g_library;
 //   void BM_Load(benchmark::State& state) {
@@ -21,16 +21,25 @@
 
 namespace bench_sampling {
 
-/// Wall and thread CPU seconds of every sample of one side.
+/// Wall, thread CPU and process CPU seconds of every sample of one side. The process time counts the
+/// threads a side starts besides the measuring one; it equals the thread time for a side that starts none.
 struct Samples {
   std::vector<double> wall;
   std::vector<double> cpu;
+  std::vector<double> processCpu;
 };
 
 // CPU time of the calling thread: on a machine shared with other work it varies less than wall time.
 inline double ThreadCpuSeconds() {
   timespec ts{};
   clock_gettime(CLOCK_THREAD_CPUTIME_ID, &ts);
+  return static_cast<double>(ts.tv_sec) + static_cast<double>(ts.tv_nsec) * 1e-9;
+}
+
+// CPU time of all threads of the process.
+inline double ProcessCpuSeconds() {
+  timespec ts{};
+  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &ts);
   return static_cast<double>(ts.tv_sec) + static_cast<double>(ts.tv_nsec) * 1e-9;
 }
 
@@ -51,12 +60,14 @@ template <class Work>
 void Measure(benchmark::State& state, Samples& samples, std::uint64_t bytesPerSample, Work work) {
   for (auto _ : state) {
     const double cpuStart = ThreadCpuSeconds();
+    const double processStart = ProcessCpuSeconds();
     const auto start = std::chrono::steady_clock::now();
     work();
     MergeFreedMemory();
     const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     samples.wall.push_back(seconds);
     samples.cpu.push_back(ThreadCpuSeconds() - cpuStart);
+    samples.processCpu.push_back(ProcessCpuSeconds() - processStart);
   }
   state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) *
                           static_cast<std::int64_t>(bytesPerSample));

@@ -10,7 +10,10 @@
 #include <cmath>
 #include <cstdint>
 #include <cstring>
+#include <exception>
 #include <limits>
+#include <system_error>
+#include <thread>
 
 #include "ncappkit/foundation/KCFileMan.h"
 
@@ -81,6 +84,8 @@ std::string FormatNumber(double value, int decimals) {
 // the decimal point put in. Returns the end of the text, or nullptr (nothing written) for a tie, a large or
 // a non-finite value, which FormatNumber must write. `p` needs room for kFastNumberRoom characters.
 constexpr std::size_t kFastNumberRoom = 24;
+// Room reserved per path point when writing: about 16 bytes ("L123.45 678.9 "), with some to spare.
+constexpr std::size_t kBytesPerPoint = 18;
 // "00" .. "99": the integer part of a number is written two digits at a time.
 struct DigitPairs {
   char text[200];
@@ -336,6 +341,13 @@ KCC_SvgCanvas::KCC_SvgCanvas(int width, int height)
 KCC_SvgCanvas::KCC_SvgCanvas(const KCC_SvgCanvas& other) = default;
 KCC_SvgCanvas& KCC_SvgCanvas::operator=(const KCC_SvgCanvas& other) = default;
 KCC_SvgCanvas::~KCC_SvgCanvas() = default;
+
+constexpr int KCC_SvgCanvas::kMaxWriteThreads;
+constexpr std::size_t KCC_SvgCanvas::kPointsPerWriteThread;
+
+void KCC_SvgCanvas::SetWriteThreads(int threads) noexcept {
+  m_writeThreads = std::clamp(threads, 1, kMaxWriteThreads);
+}
 
 void KCC_SvgCanvas::SetPrecision(int decimals) noexcept {
   m_precision = std::clamp(decimals, 0, kMaxPrecision);
@@ -758,41 +770,7 @@ void KCC_SvgCanvas::WriteShape(std::string& out, const Shape& shape, std::size_t
     }
     case ShapeKind::Path: {
       out += "<path d=\"";
-      StepWriter steps(out, m_precision);
-      char step = 'M';
-      for (std::size_t k = 0; k < shape.count; ++k) {
-        const Point& p = m_points[shape.first + k];
-        if (std::isnan(p.x)) {
-          if (p.y == 0.0) {
-            step = 'M';
-            continue;
-          }
-          // An arc: "A rx ry rotation large-arc sweep x y"; SVG's sweep 1 turns clockwise on a y-down canvas.
-          const int flags = static_cast<int>(p.y) - 1;
-          const Point& radius = m_points[shape.first + k + 1];
-          const Point& end = m_points[shape.first + k + 2];
-          steps.Text(" A", 2);
-          steps.Number(radius.x);
-          steps.Char(' ');
-          steps.Number(radius.y);
-          steps.Text((flags & 1) != 0 ? " 0 1 " : " 0 0 ", 5);
-          steps.Text((flags & 2) != 0 ? "1 " : "0 ", 2);
-          steps.Number(end.x);
-          steps.Char(' ');
-          steps.Number(end.y);
-          k += 2;
-          step = 'L';
-          continue;
-        }
-        if (k)
-          steps.Char(' ');
-        steps.Char(step);
-        steps.Number(p.x);
-        steps.Char(' ');
-        steps.Number(p.y);
-        step = 'L';
-      }
-      steps.Flush();
+      WritePathData(out, shape);
       out += "\" fill=\"none\"";
       stroke();
       out += "/>\n";
@@ -879,13 +857,119 @@ void KCC_SvgCanvas::WriteShape(std::string& out, const Shape& shape, std::size_t
   }
 }
 
+void KCC_SvgCanvas::WritePathSteps(std::string& out, const Shape& shape, std::size_t from,
+                                   std::size_t to) const {
+  StepWriter steps(out, m_precision);
+  // The first point of a part is a move when it starts the path or follows a move mark.
+  char step = 'M';
+  if (from > 0) {
+    const Point& before = m_points[shape.first + from - 1];
+    step = std::isnan(before.x) && before.y == 0.0 ? 'M' : 'L';
+  }
+  for (std::size_t k = from; k < to; ++k) {
+    const Point& p = m_points[shape.first + k];
+    if (std::isnan(p.x)) {
+      if (p.y == 0.0) {
+        step = 'M';
+        continue;
+      }
+      // An arc: "A rx ry rotation large-arc sweep x y"; SVG's sweep 1 turns clockwise on a y-down canvas.
+      const int flags = static_cast<int>(p.y) - 1;
+      const Point& radius = m_points[shape.first + k + 1];
+      const Point& end = m_points[shape.first + k + 2];
+      steps.Text(" A", 2);
+      steps.Number(radius.x);
+      steps.Char(' ');
+      steps.Number(radius.y);
+      steps.Text((flags & 1) != 0 ? " 0 1 " : " 0 0 ", 5);
+      steps.Text((flags & 2) != 0 ? "1 " : "0 ", 2);
+      steps.Number(end.x);
+      steps.Char(' ');
+      steps.Number(end.y);
+      k += 2;
+      step = 'L';
+      continue;
+    }
+    if (k)
+      steps.Char(' ');
+    steps.Char(step);
+    steps.Number(p.x);
+    steps.Char(' ');
+    steps.Number(p.y);
+    step = 'L';
+  }
+  steps.Flush();
+}
+
+void KCC_SvgCanvas::WritePathData(std::string& out, const Shape& shape) const {
+  const std::size_t parts =
+      std::min<std::size_t>(static_cast<std::size_t>(m_writeThreads), shape.count / kPointsPerWriteThread);
+  if (parts <= 1) {
+    WritePathSteps(out, shape, 0, shape.count);
+    return;
+  }
+  // Part boundaries at equal shares of the points, moved forward past an arc's radius and end.
+  std::vector<std::size_t> bounds{0};
+  for (std::size_t i = 1; i < parts; ++i) {
+    std::size_t at = std::max(bounds.back(), shape.count * i / parts);
+    const auto insideArc = [&](std::size_t k) {
+      for (std::size_t back = 1; back <= 2 && back <= k; ++back) {
+        const Point& mark = m_points[shape.first + k - back];
+        if (std::isnan(mark.x) && mark.y != 0.0)
+          return true;
+      }
+      return false;
+    };
+    while (at < shape.count && insideArc(at))
+      ++at;
+    bounds.push_back(at);
+  }
+  bounds.push_back(shape.count);
+  // The other parts are written into texts of their own while this thread writes the first into `out`.
+  std::vector<std::string> texts(parts - 1);
+  std::vector<std::exception_ptr> errors(parts - 1);
+  std::vector<std::thread> threads;
+  // Every started thread is joined, also when writing the first part throws.
+  struct Joiner {
+    std::vector<std::thread>& threads;
+    ~Joiner() {
+      for (std::thread& thread : threads)
+        thread.join();
+    }
+  } joiner{threads};
+  const auto writePart = [&](std::size_t i) {
+    try {
+      texts[i - 1].reserve((bounds[i + 1] - bounds[i]) * kBytesPerPoint);
+      WritePathSteps(texts[i - 1], shape, bounds[i], bounds[i + 1]);
+    } catch (...) {
+      errors[i - 1] = std::current_exception();
+    }
+  };
+  for (std::size_t i = 1; i < parts; ++i) {
+    try {
+      threads.emplace_back(writePart, i);
+    } catch (const std::system_error&) {
+      writePart(i);  // no thread to be had: written here, after the first part's turn would have been
+    }
+  }
+  WritePathSteps(out, shape, bounds[0], bounds[1]);
+  for (std::thread& thread : threads)
+    thread.join();
+  threads.clear();
+  for (std::size_t i = 1; i < parts; ++i) {
+    if (errors[i - 1])
+      std::rethrow_exception(errors[i - 1]);
+    out += texts[i - 1];
+  }
+}
+
 std::string KCC_SvgCanvas::ToSvg() const {
   const std::string width = std::to_string(m_width);
   const std::string height = std::to_string(m_height);
   std::string out;
-  // About 16 bytes per point ("L123.45 678.9 "), 18 to be safe, and a hundred per other shape: one
-  // allocation for most pictures.
-  out.reserve(256 + m_points.size() * 18 + m_shapes.size() * 100);
+  // About 16 bytes per point ("L123.45 678.9 "), kBytesPerPoint to be safe, and a hundred per other shape:
+  // one allocation for most pictures.
+  out.reserve(256 + m_points.size() * kBytesPerPoint + m_shapes.size() * 100);
   out += "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
   out += "<svg xmlns=\"http://www.w3.org/2000/svg\"";
   if (m_hasLayers)

@@ -596,10 +596,9 @@ class KCC_NcToolPath::Run {
       m_line = static_cast<std::int32_t>(std::min<std::size_t>(at + 1, 0x7FFFFFFF));
       int count = 0;
       const NcWordScanner::PlainWord* words = nullptr;
-      if (readAhead && m_stack.size() == 1 && readAhead->Take(at, count, words))
-        ExecuteLine(lines[at], count, words);
-      else
-        ExecuteLine(lines[at], kNotRead, nullptr);
+      if (!readAhead || m_stack.size() != 1 || !readAhead->Take(at, count, words))
+        count = kNotRead;
+      ExecuteLine(&lines[at], count, words);
     }
     readAhead.reset();
     Finish();
@@ -758,8 +757,9 @@ class KCC_NcToolPath::Run {
   }
 
   // Runs one line. `plainCount` and `plainWords` are the line's plain words read ahead (a count of -1: the
-  // line is not plain), or kNotRead.
-  void ExecuteLine(const KCString& line, int plainCount, const NcWordScanner::PlainWord* plainWords) {
+  // line is not plain), or kNotRead. The line's text is only looked at when it was not read ahead or is not
+  // plain: the interpreter then leaves the text to the thread that read it.
+  void ExecuteLine(const KCString* lineText, int plainCount, const NcWordScanner::PlainWord* plainWords) {
     CountBlock();
     if (m_stopped)
       return;
@@ -768,12 +768,13 @@ class KCC_NcToolPath::Run {
     Block& b = m_block;
     NcWordScanner::PlainWord words[NcWordScanner::kMaxPlainWords];
     if (plainCount == kNotRead) {
-      plainCount = NcWordScanner::ReadPlainBlock(line.c_str(), line.size(), words);
+      plainCount = NcWordScanner::ReadPlainBlock(lineText->c_str(), lineText->size(), words);
       plainWords = words;
     }
     if (plainCount >= 0 && ExecutePlainBlock(plainCount, plainWords))
       return;
     m_block.Reset();
+    const KCString& line = *lineText;
     NcWordScanner scan(line.c_str(), line.size());
     NcWord w;
     bool first = true;

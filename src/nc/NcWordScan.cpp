@@ -84,21 +84,28 @@ bool NcWordScanner::ReadNumber(const char* text, std::size_t length, double& val
 
 int NcWordScanner::ReadPlainBlock(const char* text, std::size_t length, PlainWord* words) noexcept {
   int count = 0;
+  bool started = false;  // a word was read: an O from now on is an address, not a program number
   std::size_t i = 0;
-  // A program-number line ("O1000", ":1000") makes no words; plain words never start with O.
-  while (i < length && (text[i] == ' ' || text[i] == '\t'))
-    ++i;
-  if (i < length && (text[i] == 'O' || text[i] == 'o'))
-    return -1;
   while (i < length) {
     const char c = text[i];
     if (c == ' ' || c == '\t') {
       ++i;
       continue;
     }
-    // A word: a letter, then a number at once; a second letter would make a name.
-    if (!IsLetterChar(c) || i + 1 >= length)
+    if (c == '(') {  // a comment ends at its first ')', as Next reads it
+      while (i < length && text[i] != ')')
+        ++i;
+      if (i < length)
+        ++i;
+      continue;
+    }
+    if (c == ';')
+      break;  // the rest is a comment
+    // A word: a letter, then a number at once; a second letter would make a name. A program-number line
+    // ("O1000") makes no words.
+    if (!IsLetterChar(c) || i + 1 >= length || (!started && (c == 'O' || c == 'o')))
       return -1;
+    started = true;
     const char letter = Upper(c);
     ++i;
     if (letter == 'N' && IsDigitChar(text[i])) {
@@ -112,8 +119,9 @@ int NcWordScanner::ReadPlainBlock(const char* text, std::size_t length, PlainWor
       i += used;
       words[count++] = PlainWord{letter, number};
     }
-    // The word ends at a blank, the next letter or the end of the block; "R10 = 5" fails at the '='.
-    if (i < length && text[i] != ' ' && text[i] != '\t' && !IsLetterChar(text[i]))
+    // The word ends at a blank, the next letter, a comment or the end of the block; "R10 = 5" fails at '='.
+    if (i < length && text[i] != ' ' && text[i] != '\t' && text[i] != '(' && text[i] != ';' &&
+        !IsLetterChar(text[i]))
       return -1;
   }
   return count;

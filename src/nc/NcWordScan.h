@@ -56,13 +56,13 @@ class NcWordScanner {
   };
   /// Most words ReadPlainBlock takes from one block.
   static constexpr int kMaxPlainWords = 32;
-  /// Reads a block made only of plain address words, the form nearly every block of a generated program
-  /// has ("N20 G01 Y3": a letter directly followed by a plain number, words apart or separated by
-  /// blanks), straight into `words` (block numbers left out) and returns how many there are: the same words,
-  /// with the same values, that Next would give, but without its work per word. Returns -1 as soon as the
-  /// block holds anything else (a comment, a name, a parameter, an expression, '=', a letter without a
-  /// number, a program-number or '%' line, block delete, more than kMaxPlainWords words): such a block is to
-  /// be read with Next.
+  /// Reads a block made only of plain address words and comments, the form nearly every block of a generated
+  /// program has ("N20 G01 Y3 (ROUGH)": a letter directly followed by a plain number, words apart or
+  /// separated by blanks, comments in round brackets or after ';'), straight into `words` (block numbers left
+  /// out) and returns how many there are: the same words, with the same values, that Next would give, but
+  /// without its work per word. Returns -1 as soon as the block holds anything else (a name, a parameter, an
+  /// expression, '=', a letter without a number, a program-number or '%' line, block delete, more than
+  /// kMaxPlainWords words): such a block is to be read with Next.
   static int ReadPlainBlock(const char* text, std::size_t length, PlainWord* words) noexcept;
 
   /// Reads a plain number ([+-] digits [. digits], or [+-] . digits) at `text`; true and `value` and `used`

@@ -3,6 +3,7 @@
 // precision and locale independence, text measuring, and saving.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <charconv>
 #include <clocale>
 #include <functional>
@@ -738,3 +739,53 @@ TEST(KccSvgCanvas, NumbersAreWhatToCharsWritesForEveryPrecision) {
 }
 
 }  // namespace
+
+// --- write threads -----------------------------------------------------------------------------------------
+
+namespace {
+
+// A canvas with one path of about `steps` * 2.4 points: lines, arcs every third step (whose three points a
+// part boundary must not split) and a move every seventh.
+KCC_SvgCanvas LongPathCanvas(int steps) {
+  KCC_SvgCanvas canvas(800, 600);
+  canvas.SetPrecision(1);
+  canvas.MoveTo(KC2DPoint(0.0, 0.0));
+  for (int i = 1; i <= steps; ++i) {
+    const KC2DPoint to((i * 37) % 800 + 0.25, (i * 53) % 600 + 0.5);
+    if (i % 7 == 0)
+      canvas.MoveTo(to);
+    else if (i % 3 == 0)
+      canvas.ArcTo(to, 150.0 + i % 50, i % 2 == 0, i % 4 == 0);
+    else
+      canvas.LineTo(to);
+  }
+  return canvas;
+}
+
+}  // namespace
+
+TEST(KccSvgCanvas, WriteThreadsAreOneUnlessSet) {
+  const KCC_SvgCanvas canvas(10, 10);
+
+  EXPECT_EQ(canvas.GetWriteThreads(), 1);
+}
+
+TEST(KccSvgCanvas, WriteThreadsAreClampedToTheirRange) {
+  KCC_SvgCanvas canvas(10, 10);
+
+  canvas.SetWriteThreads(0);
+  EXPECT_EQ(canvas.GetWriteThreads(), 1);
+  canvas.SetWriteThreads(1000);
+  EXPECT_EQ(canvas.GetWriteThreads(), KCC_SvgCanvas::kMaxWriteThreads);
+}
+
+TEST(KccSvgCanvas, LongPathIsTheSameBytesWhateverTheWriteThreads) {
+  KCC_SvgCanvas canvas = LongPathCanvas(120000);
+  const std::string alone = canvas.ToSvg();
+
+  for (int threads : {2, 3, 4, KCC_SvgCanvas::kMaxWriteThreads}) {
+    canvas.SetWriteThreads(threads);
+    EXPECT_EQ(canvas.ToSvg(), alone) << threads << " threads";
+  }
+  EXPECT_EQ(std::count(alone.begin(), alone.end(), 'A'), 120000 / 3 - 120000 / 21);
+}

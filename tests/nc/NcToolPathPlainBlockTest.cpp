@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
-// KCC_NcToolPath reads a block made only of plain address words ("N20 G01 Y3") by a short way and
-// every other block word by word. A comment at the end of a block sends it the long way without changing
-// what it says, so each row is interpreted twice, as written and with " (C)" after every block, and both
-// results must agree to the last bit: segments, warnings, not-interpreted entries, extents, lengths, time.
+// KCC_NcToolPath reads a block made only of plain address words and comments ("N20 G01 Y3 (C)") by a
+// short way and every other block word by word. FIRST_BLOCK (the marker of a Siemens main program, which
+// does nothing) at the end of a block sends it the long way without changing what it says, so each row is
+// interpreted twice, as written and with " FIRST_BLOCK" after every block, and both results must agree to
+// the last bit: segments, warnings, not-interpreted entries, extents, lengths, time.
 // Long programs may also be read ahead on a second thread, which must not change the result either.
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -21,6 +23,10 @@ struct PlainBlockCase {
   const char* name;
   std::vector<std::string> blocks;  // between "O1" and "M30"
 };
+
+void PrintTo(const PlainBlockCase& row, std::ostream* out) {
+  *out << row.name;
+}
 
 std::vector<std::string> Program(const std::vector<std::string>& blocks, const std::string& suffix) {
   std::vector<std::string> lines{"O1"};
@@ -56,13 +62,13 @@ class NcToolPathPlainBlock : public ::testing::TestWithParam<PlainBlockCase> {};
 
 }  // namespace
 
-TEST_P(NcToolPathPlainBlock, ReadsAsTheSameBlockWithACommentDoes) {
+TEST_P(NcToolPathPlainBlock, ReadsAsTheSameBlockReadWordByWord) {
   const KCC_NcToolPath plain = Interpret(Program(GetParam().blocks, ""));
-  const KCC_NcToolPath commented = Interpret(Program(GetParam().blocks, " (C)"));
+  const KCC_NcToolPath wordByWord = Interpret(Program(GetParam().blocks, " FIRST_BLOCK"));
 
-  EXPECT_EQ(Describe(plain), Describe(commented));
-  EXPECT_EQ(Numbers(plain), Numbers(commented));
-  EXPECT_EQ(plain.GetBlockCount(), commented.GetBlockCount());
+  EXPECT_EQ(Describe(plain), Describe(wordByWord));
+  EXPECT_EQ(Numbers(plain), Numbers(wordByWord));
+  EXPECT_EQ(plain.GetBlockCount(), wordByWord.GetBlockCount());
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -83,7 +89,11 @@ INSTANTIATE_TEST_SUITE_P(
         PlainBlockCase{"LettersNotInterpreted", {"G1 X1 A30 B2 F10", "G1 O5 X2", "U1 W2"}},
         PlainBlockCase{"CannedCycle", {"G99 G81 X10 Y10 Z-5 R2 F100", "X20", "G80"}},
         PlainBlockCase{"InchInput", {"G20", "G1 X1.5 Y-0.25 F20", "G21 X3"}},
-        PlainBlockCase{"ProgramEndInTheMiddle", {"G1 X1 F10", "M30", "G1 X5"}}),
+        PlainBlockCase{"ProgramEndInTheMiddle", {"G1 X1 F10", "M30", "G1 X5"}},
+        PlainBlockCase{"CommentsBetweenAndAfterWords",
+                       {"(ONLY A COMMENT)", "G1 X1 (MID) Y2 F10 (END)", "N5(A)G0X3(B)", "G1 X4 ; REST Y9"}},
+        PlainBlockCase{"UnclosedCommentRunsToTheEnd", {"G1 X2 F10 (OPEN Y7", "(X9"}},
+        PlainBlockCase{"CommentBeforeTheFirstWord", {"(C) G1 X3 F10", "(C)N20 X4"}}),
     [](const ::testing::TestParamInfo<PlainBlockCase>& row) { return std::string(row.param.name); });
 
 // --- reading ahead on a second thread ----------------------------------------------------------------------

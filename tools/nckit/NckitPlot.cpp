@@ -9,6 +9,7 @@
 #include <map>
 #include <memory>
 #include <system_error>
+#include <thread>
 #include <utility>
 
 #include "NckitUtf8.h"
@@ -198,6 +199,18 @@ std::string ProgramText(const KCC_NcFileProgram& program) {
   return ref.empty() ? name : name + " " + ref;
 }
 
+// How many segments ahead of the one being drawn DrawSegments asks for a segment's memory.
+constexpr std::size_t kPrefetchDistance = 8;
+
+// A hint to fetch the memory at `address` into the cache; nothing where the compiler has no such hint.
+void Prefetch(const void* address) {
+#if defined(__GNUC__) || defined(__clang__)
+  __builtin_prefetch(address);
+#else
+  static_cast<void>(address);
+#endif
+}
+
 // A line of the legend, with an optional line sample in front of its text.
 struct LegendLine {
   std::string text;
@@ -218,6 +231,8 @@ class Plotter {
         m_canvas(m_width, m_height),
         m_draw(m_port, m_canvas) {
     m_canvas.SetPrecision(kSvgDecimals);
+    // Long layers are written on as many threads as the machine runs side by side, four at most.
+    m_canvas.SetWriteThreads(static_cast<int>(std::clamp(std::thread::hardware_concurrency(), 1u, 4u)));
     m_legend = m_width >= kPlotMinWidthForLegend;
     m_arrows =
         m_summary.rapids + m_summary.feeds + m_summary.arcs + m_summary.holes <= kPlotMaxSegmentsWithArrows;
@@ -623,6 +638,10 @@ class Plotter {
       m_groupPending = "t" + std::to_string(m_layerTool) + "-" + KindLabel(kind);
       m_groupLabel = ToolLabel(m_layerTool) + " " + KindLabel(kind);
       for (std::size_t i = start[layer]; i < start[layer + 1]; ++i) {
+        // A layer picks its segments out of the whole list, which has long left the cache; asking for one a
+        // few places ahead lets its memory arrive while this one is drawn.
+        if (i + kPrefetchDistance < start[layer + 1])
+          Prefetch(order[i + kPrefetchDistance]);
         const KCC_NcToolPath::Segment& s = *order[i];
         if (s.kind == KCC_NcToolPath::kArcCW || s.kind == KCC_NcToolPath::kArcCCW) {
           DrawArcSegment(s);

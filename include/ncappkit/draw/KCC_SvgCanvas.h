@@ -84,6 +84,16 @@ class NCAPPKIT_EXPORT KCC_SvgCanvas : public KCCanvas {
   int GetPrecision() const noexcept { return m_precision; }
   /// Set the number of decimals written for coordinates and sizes; values outside 0..10 are clamped.
   void SetPrecision(int decimals) noexcept;
+  /// The number of threads ToSvg may use to write a long path (default 1: only the calling one).
+  int GetWriteThreads() const noexcept { return m_writeThreads; }
+  /// Let ToSvg write each path of more than kPointsPerWriteThread points in up to `threads` parts side by
+  /// side, the calling thread taking the first; values outside 1..kMaxWriteThreads are clamped. The output
+  /// is the same bytes whatever the number.
+  void SetWriteThreads(int threads) noexcept;
+  /// Most threads SetWriteThreads allows.
+  static constexpr int kMaxWriteThreads = 8;
+  /// Fewest points a path needs per write thread before ToSvg starts one more.
+  static constexpr std::size_t kPointsPerWriteThread = 50000;
   /// The current point: where the next LineTo starts.
   KC2DPoint GetCurrentPoint() const noexcept { return m_current; }
 
@@ -256,10 +266,15 @@ class NCAPPKIT_EXPORT KCC_SvgCanvas : public KCCanvas {
   Shape* BeginStep(const KC2DPoint& to, bool drawable);
   // One shape's element lines, each indented by `indent` spaces.
   void WriteShape(std::string& out, const Shape& shape, std::size_t indent) const;
+  // All of `shape`'s path data, in parts on up to m_writeThreads threads when the path is long.
+  void WritePathData(std::string& out, const Shape& shape) const;
+  // The path data of `shape`'s points [from, to); `from` and `to` do not fall inside an arc's three points.
+  void WritePathSteps(std::string& out, const Shape& shape, std::size_t from, std::size_t to) const;
 
   int m_width = 0;
   int m_height = 0;
   int m_precision;  // set by the constructor
+  int m_writeThreads = 1;
   Settings m_settings;
   bool m_settingsChanged = true;  // m_settings differs from the last snapshot (or there is none)
   KC2DPoint m_current;

@@ -15,6 +15,7 @@
 #include <system_error>
 #include <thread>
 
+#include "foundation/KCPlatformDetail.h"
 #include "ncappkit/foundation/KCFileMan.h"
 
 namespace {
@@ -600,8 +601,10 @@ void KCC_SvgCanvas::ArcTo(const KC2DPoint& end, double radius, bool largeArc, bo
 }
 
 void KCC_SvgCanvas::ReservePoints(std::size_t count) {
-  if (count <= std::numeric_limits<std::size_t>::max() / sizeof(Point) - m_points.size())
+  if (count <= std::numeric_limits<std::size_t>::max() / sizeof(Point) - m_points.size()) {
     m_points.reserve(m_points.size() + count);
+    ncappkit_detail::AdviseLargePages(m_points.data(), m_points.capacity() * sizeof(Point));
+  }
 }
 
 void KCC_SvgCanvas::BeginGroup(const KCString& id, const KCString& label) {
@@ -940,6 +943,7 @@ void KCC_SvgCanvas::WritePathData(std::string& out, const Shape& shape) const {
   const auto writePart = [&](std::size_t i) {
     try {
       texts[i - 1].reserve((bounds[i + 1] - bounds[i]) * kBytesPerPoint);
+      ncappkit_detail::AdviseLargePages(texts[i - 1].data(), texts[i - 1].capacity());
       WritePathSteps(texts[i - 1], shape, bounds[i], bounds[i + 1]);
     } catch (...) {
       errors[i - 1] = std::current_exception();
@@ -970,6 +974,7 @@ std::string KCC_SvgCanvas::ToSvg() const {
   // About 16 bytes per point ("L123.45 678.9 "), kBytesPerPoint to be safe, and a hundred per other shape:
   // one allocation for most pictures.
   out.reserve(256 + m_points.size() * kBytesPerPoint + m_shapes.size() * 100);
+  ncappkit_detail::AdviseLargePages(out.data(), out.capacity());
   out += "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
   out += "<svg xmlns=\"http://www.w3.org/2000/svg\"";
   if (m_hasLayers)

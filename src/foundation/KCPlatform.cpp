@@ -20,6 +20,11 @@
 #else
 #include <unistd.h>
 #endif
+#if defined(__linux__)
+#include <sys/mman.h>
+
+#include <cstdint>
+#endif
 
 namespace {
 
@@ -166,5 +171,20 @@ bool ncappkit_detail::ReadFileVersion(const std::string& path, std::array<int, 4
     return false;
   version = {NCAPPKIT_VERSION_MAJOR, NCAPPKIT_VERSION_MINOR, NCAPPKIT_VERSION_PATCH, 0};
   return true;
+#endif
+}
+
+void ncappkit_detail::AdviseLargePages(void* data, std::size_t bytes) noexcept {
+#if defined(__linux__) && defined(MADV_HUGEPAGE)
+  constexpr std::uintptr_t kLargePage = std::uintptr_t{2} << 20;
+  const auto begin = reinterpret_cast<std::uintptr_t>(data);
+  const std::uintptr_t first = (begin + kLargePage - 1) & ~(kLargePage - 1);
+  const std::uintptr_t last = (begin + bytes) & ~(kLargePage - 1);
+  if (data != nullptr && last > first)
+    ::madvise(reinterpret_cast<void*>(first), last - first,
+              MADV_HUGEPAGE);  // only a hint: its result is not needed
+#else
+  static_cast<void>(data);
+  static_cast<void>(bytes);
 #endif
 }

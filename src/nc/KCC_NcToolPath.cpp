@@ -20,6 +20,7 @@
 #include <unordered_map>
 #include <utility>
 
+#include "foundation/KCPlatformDetail.h"
 #include "nc/NcWordScan.h"
 #include "ncappkit/foundation/KCC_MessageReporter.h"
 #include "ncappkit/mathexpr/CExpressionItem.h"
@@ -1524,6 +1525,7 @@ void KCC_NcToolPath::SegmentList::Reserve(std::size_t count) {
     throw std::bad_alloc();
   m_data = static_cast<Segment*>(grown);
   m_capacity = count;
+  ncappkit_detail::AdviseLargePages(m_data, count * sizeof(Segment));
 }
 
 void KCC_NcToolPath::SegmentList::Grow() {

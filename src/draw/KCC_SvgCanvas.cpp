@@ -116,8 +116,11 @@ char* WriteFastNumber(char* p, double value, int decimals) {
     digits /= 10;
     --d;
   }
-  char buffer[kFastNumberRoom];
-  char* const end = buffer + sizeof buffer;
+  // The digits are put together backwards in the first half of `buffer` and then copied as one block of
+  // kFastNumberRoom characters, a fixed-size copy without a call; what follows the number in the block is
+  // overwritten by whatever the caller writes next.
+  char buffer[2 * kFastNumberRoom];
+  char* const end = buffer + kFastNumberRoom;
   char* q = end;
   for (; d > 0; --d) {
     *--q = static_cast<char>('0' + digits % 10);
@@ -138,9 +141,8 @@ char* WriteFastNumber(char* p, double value, int decimals) {
   }
   if (units < 0)
     *--q = '-';
-  const auto length = static_cast<std::size_t>(end - q);
-  std::memcpy(p, q, length);
-  return p + length;
+  std::memcpy(p, q, kFastNumberRoom);
+  return p + (end - q);
 }
 
 // FormatNumber(value, decimals) appended to `out`.

@@ -171,7 +171,7 @@ void PrintSummary(const Subject& s, const char* goal) {
               Min(s.plot.cpu) / Min(s.load.cpu), Median(s.plot.cpu) / Median(s.load.cpu),
               Min(s.plot.processCpu) / Min(s.load.processCpu),
               Median(s.plot.processCpu) / Median(s.load.processCpu), goal);
-  std::printf("(CPU: the measuring thread; all: every thread of the process, the read-ahead thread included)\n");
+  std::printf("(CPU: the measuring thread; all: every thread of the process, the helper threads included)\n");
   std::printf("SVG: %zu bytes, %.1f bytes per segment\n", s.svgBytes,
               static_cast<double>(s.svgBytes) / static_cast<double>(s.segments));
 }

@@ -9,7 +9,7 @@
 // and destruction of a KCC_NcToolPath on the file loaded once before. Both end with merging the freed
 // blocks (see bench_nc_load.cpp), run 15 repetitions of one sample each, interleaved in random order. After
 // the run the minimum and the median of the samples, the ratio interpret / load (goal <= 2), the segment
-// count and the bytes per segment (sizeof, and the vector's capacity per segment) are printed.
+// count and the bytes per segment (sizeof, and the segment list's capacity per segment) are printed.
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
@@ -97,7 +97,7 @@ void PrintSummary() {
               Min(g_interpret.wall) / Min(g_load.wall), Median(g_interpret.wall) / Median(g_load.wall),
               Min(g_interpret.cpu) / Min(g_load.cpu), Median(g_interpret.cpu) / Median(g_load.cpu));
   std::printf(
-      "segments: %zu (%ju warnings); sizeof(Segment) = %zu bytes; vector capacity %.1f bytes per segment\n",
+      "segments: %zu (%ju warnings); sizeof(Segment) = %zu bytes; list capacity %.1f bytes per segment\n",
       g_segments, static_cast<std::uintmax_t>(g_warnings), sizeof(KCC_NcToolPath::Segment),
       g_segments == 0 ? 0.0 : static_cast<double>(g_capacityBytes) / static_cast<double>(g_segments));
   bench_sampling::PrintLoadAverage();

@@ -1489,7 +1489,7 @@ class KCC_NcToolPath::Run {
 
 static_assert(sizeof(KCC_NcToolPath::Segment) <= 64, "a segment must stay within 64 bytes");
 
-// --- SegmentList --------------------------------------------------------------------------------------------
+// --- SegmentList -------------------------------------------------------------------------------------------
 
 static_assert(std::is_trivially_copyable<KCC_NcToolPath::Segment>::value,
               "segments are moved by realloc and copied by memcpy");
@@ -1554,7 +1554,7 @@ void KCC_NcToolPath::SegmentList::Release() noexcept {
   m_capacity = 0;
 }
 
-// --- KCC_NcToolPath -------------------------------------------------------------------------------------------
+// --- KCC_NcToolPath ----------------------------------------------------------------------------------------
 
 KCC_NcToolPath::KCC_NcToolPath() = default;
 KCC_NcToolPath::KCC_NcToolPath(const KCC_NcToolPath& other) = default;

@@ -61,39 +61,25 @@ std::unique_ptr<bench_nc::TestFile> g_loadFile;
 Subject g_one;
 Subject g_many;
 
-// Interpret every main program (each starting where the one before ended, as nckit plot --all does) and
-// draw them unless `plot` is false; returns the picture.
+// Interpret every main program as nckit plot --all does (InterpretForPlot) and draw them unless `plot` is
+// false; returns the picture.
 std::string InterpretAndPlot(Subject& subject, bool plot) {
   KCC_NcFile& file = *subject.loaded;
-  std::vector<std::unique_ptr<KCC_NcToolPath>> paths;
-  std::vector<PlotProgram> drawn;
-  double start[3] = {0.0, 0.0, 0.0};
-  std::size_t segments = 0;
+  std::vector<KCC_NcFileProgram*> programs;
+  for (int i = 0; i < file.GetNumberOfMainPrograms(); ++i)
+    programs.push_back(file.GetMainProgList().GetProgram(i));
+  const PlotPaths paths = InterpretForPlot(file, programs, "", KCC_NcToolPath::kDefaultRapidRate);
+  if (paths.stopped != nullptr)
+    std::abort();
   std::uint64_t warnings = 0;
-  for (int i = 0; i < file.GetNumberOfMainPrograms(); ++i) {
-    KCC_NcFileProgram* program = file.GetMainProgList().GetProgram(i);
-    auto path = std::make_unique<KCC_NcToolPath>();
-    path->SetReadAhead(true);  // as nckit plot does
-    path->SetMaxSegments(kPlotMaxSegments - segments);
-    path->SetStartPoint(start[0], start[1], start[2]);
-    path->Interpret(file, *program);
-    if (!path->IsComplete())
-      std::abort();
-    segments += path->GetSegmentCount();
+  for (const auto& path : paths.paths)
     warnings += path->GetWarningCount();
-    if (!path->GetSegments().empty()) {
-      for (int a = 0; a < 3; ++a)
-        start[a] = static_cast<double>(path->GetSegments().back().end[a]);
-    }
-    drawn.push_back({program, path.get()});
-    paths.push_back(std::move(path));
-  }
-  subject.segments = segments;
-  subject.programs = drawn.size();
+  subject.segments = paths.segments;
+  subject.programs = paths.drawn.size();
   subject.warnings = warnings;
   if (!plot)
     return std::string();
-  return PlotToSvg(subject.path, drawn, PlotOptions());
+  return PlotToSvg(subject.path, paths.drawn, PlotOptions());
 }
 
 void Load(benchmark::State& state, Subject& subject) {

@@ -945,6 +945,34 @@ PlotSummary SummarizePlot(const std::vector<PlotProgram>& programs) {
   return summary;
 }
 
+PlotPaths InterpretForPlot(KCC_NcFile& file, const std::vector<KCC_NcFileProgram*>& programs,
+                           const std::string& folder, double rapidRate) {
+  PlotPaths result;
+  double start[3] = {0.0, 0.0, 0.0};
+  for (KCC_NcFileProgram* program : programs) {
+    auto path = std::make_unique<KCC_NcToolPath>();
+    path->SetSubProgramFolder(folder);
+    path->SetRapidRate(rapidRate);
+    path->SetReadAhead(true);  // a long program is read on a second thread while it runs
+    path->SetMaxSegments(kPlotMaxSegments - result.segments);
+    path->SetStartPoint(start[0], start[1], start[2]);
+    path->Interpret(file, *program);
+    if (!path->IsComplete()) {
+      result.stopped = program;
+      result.stopReason = path->GetStopReason().str();
+      return result;
+    }
+    result.segments += path->GetSegmentCount();
+    if (!path->GetSegments().empty()) {
+      for (int a = 0; a < 3; ++a)
+        start[a] = static_cast<double>(path->GetSegments().back().end[a]);
+    }
+    result.drawn.push_back({program, path.get()});
+    result.paths.push_back(std::move(path));
+  }
+  return result;
+}
+
 std::string PlotToSvg(const std::string& fileName, const std::vector<PlotProgram>& programs,
                       const PlotOptions& options) {
   Plotter plotter(fileName, programs, options);

@@ -40,11 +40,13 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "ncappkit/nc/KCC_NcToolPath.h"
 
+class KCC_NcFile;
 class KCC_NcFileProgram;
 
 /// Canvas size when none is given, pixels: a landscape picture that fits a laptop screen.
@@ -85,6 +87,18 @@ struct PlotProgram {
   const KCC_NcToolPath* path = nullptr;
 };
 
+/// The programs of a plot interpreted: their tool paths (owned) and the list PlotToSvg takes.
+struct PlotPaths {
+  std::vector<std::unique_ptr<KCC_NcToolPath>> paths;
+  std::vector<PlotProgram> drawn;
+  /// Segments of all programs together.
+  std::size_t segments = 0;
+  /// The program a limit stopped, which ends the list (nullptr when every program ran to its end).
+  const KCC_NcFileProgram* stopped = nullptr;
+  /// Why it stopped (KCC_NcToolPath::GetStopReason), or "".
+  std::string stopReason;
+};
+
 /// Counts, extents and totals of all programs of a plot.
 struct PlotSummary {
   std::uint64_t rapids = 0;
@@ -115,6 +129,12 @@ std::string PlotProgramName(const KCC_NcFileProgram& program);
 std::string PlotNumber(double value, int decimals);
 /// The counts, extents and totals of `programs`.
 PlotSummary SummarizePlot(const std::vector<PlotProgram>& programs);
+/// Interpret `programs` of `file` for a plot, as nckit plot does: each starts where the one before ended,
+/// with Siemens sub-program files looked for in `folder` and rapids at `rapidRate` mm/min; a long program is
+/// read ahead on a second thread, and all programs together take at most kPlotMaxSegments. Stops at the
+/// first program a limit stopped, which is not drawn.
+PlotPaths InterpretForPlot(KCC_NcFile& file, const std::vector<KCC_NcFileProgram*>& programs,
+                           const std::string& folder, double rapidRate);
 /// The picture of `programs` as SVG text; `fileName` is shown in the legend and the title. A plot without
 /// any segment shows the legend and an empty plot area.
 std::string PlotToSvg(const std::string& fileName, const std::vector<PlotProgram>& programs,

@@ -275,35 +275,16 @@ int RunPlot(const NckitArgs& args, std::ostream& out, std::ostream& err) {
   if (const auto stop = ChoosePrograms(cl, path, file, all, programText, chosen, err))
     return *stop;
 
-  // Each program starts where the one before ended; all together take at most kPlotMaxSegments.
-  std::vector<std::unique_ptr<KCC_NcToolPath>> paths;
-  std::vector<PlotProgram> drawn;
-  std::size_t segments = 0;
-  double start[3] = {0.0, 0.0, 0.0};
-  for (KCC_NcFileProgram* program : chosen) {
-    auto toolPath = std::make_unique<KCC_NcToolPath>();
-    toolPath->SetSubProgramFolder(folder);
-    toolPath->SetRapidRate(rate);
-    toolPath->SetReadAhead(true);  // a long program is read on a second thread while it runs
-    toolPath->SetMaxSegments(kPlotMaxSegments - segments);
-    toolPath->SetStartPoint(start[0], start[1], start[2]);
-    toolPath->Interpret(file, *program);
-    if (!toolPath->IsComplete()) {
-      const std::string name = PlotProgramName(*program);
-      err << cl.Program() << ": " << path << ": program " << (name.empty() ? "(no number)" : name) << " "
-          << toolPath->GetStopReason().str() << "; a plot takes at most " << kPlotMaxSegments
-          << " segments, nothing is drawn\n";
-      return kNckitProblem;
-    }
-    segments += toolPath->GetSegmentCount();
-    if (!toolPath->GetSegments().empty()) {
-      const KCC_NcToolPath::Segment& last = toolPath->GetSegments().back();
-      for (int i = 0; i < 3; ++i)
-        start[i] = static_cast<double>(last.end[i]);
-    }
-    drawn.push_back({program, toolPath.get()});
-    paths.push_back(std::move(toolPath));
+  const PlotPaths plot = InterpretForPlot(file, chosen, folder, rate);
+  if (plot.stopped != nullptr) {
+    const std::string name = PlotProgramName(*plot.stopped);
+    err << cl.Program() << ": " << path << ": program " << (name.empty() ? "(no number)" : name) << " "
+        << plot.stopReason << "; a plot takes at most " << kPlotMaxSegments
+        << " segments, nothing is drawn\n";
+    return kNckitProblem;
   }
+  const std::vector<PlotProgram>& drawn = plot.drawn;
+  const std::size_t segments = plot.segments;
 
   if (json)
     WriteJson(path, drawn, viewText.c_str(), out);

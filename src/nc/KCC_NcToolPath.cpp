@@ -50,7 +50,7 @@ constexpr double kMmPerInch = 25.4;
 // A program of at least this many lines is read ahead on a second thread when that is switched on; below it
 // starting the thread would cost more than it saves.
 constexpr std::size_t kReadAheadMinLines = 20000;
-// ExecuteLine's word count for a line not read ahead.
+// The word count of a line whose words were not read ahead: it is read where it runs.
 constexpr int kNotRead = -2;
 // Deepest bracket nesting an expression may have (keeps the recursive reader's stack small).
 constexpr int kMaxExpressionDepth = 64;
@@ -478,14 +478,14 @@ class PlainReadAhead {
   PlainReadAhead(const PlainReadAhead&) = delete;
   PlainReadAhead& operator=(const PlainReadAhead&) = delete;
 
-  // The words of line `index` as ReadPlainBlock gives them: their number, or -1 when the block is not plain.
-  // False when the reader does not have the line (an index before the chunk taken last, or a line the reader
-  // had no room for): the caller reads it itself.
-  bool Take(std::size_t index, int& count, const PlainWord*& words) {
+  // The words of line `index` as ReadPlainBlock gives them: their number (`words` set), or -1 when the block
+  // is not plain. kNotRead when the reader does not have the line (an index before the chunk taken last, or a
+  // line the reader had no room for): the caller reads it itself.
+  int Take(std::size_t index, const PlainWord*& words) {
     const std::size_t chunk = index / kChunkLines;
     if (chunk != m_taken) {
       if (m_taken != kNone && chunk < m_taken)
-        return false;
+        return kNotRead;
       std::unique_lock<std::mutex> lock(m_mutex);
       m_taken = chunk;
       m_released = chunk;  // the chunks before it are not needed any more
@@ -494,17 +494,13 @@ class PlainReadAhead {
     }
     const Chunk& c = m_chunks[chunk % kChunks];
     const std::size_t line = index % kChunkLines;
-    count = c.counts[line];
-    if (count == kNoRoom)
-      return false;
     words = c.words.data() + c.offsets[line];
-    return true;
+    return c.counts[line];
   }
 
  private:
   static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
   static constexpr std::size_t kWordsPerLine = 8;  // room per line on average; a full chunk leaves the rest
-  static constexpr int kNoRoom = -2;
 
   struct Chunk {
     std::vector<int> counts;
@@ -535,14 +531,14 @@ class PlainReadAhead {
     std::size_t used = 0;
     for (std::size_t i = first; i < end; ++i) {
       const std::size_t line = i - first;
+      chunk.offsets[line] = used;
       if (chunk.words.size() - used < NcWordScanner::kMaxPlainWords) {
-        chunk.counts[line] = kNoRoom;
+        chunk.counts[line] = kNotRead;
         continue;
       }
       const KCString& text = m_lines[i];
       const int count = NcWordScanner::ReadPlainBlock(text.c_str(), text.size(), chunk.words.data() + used);
       chunk.counts[line] = count;
-      chunk.offsets[line] = used;
       if (count > 0)
         used += static_cast<std::size_t>(count);
     }
@@ -595,10 +591,8 @@ class KCC_NcToolPath::Run {
       }
       const std::size_t at = frame.next++;
       m_line = static_cast<std::int32_t>(std::min<std::size_t>(at + 1, 0x7FFFFFFF));
-      int count = 0;
       const NcWordScanner::PlainWord* words = nullptr;
-      if (!readAhead || m_stack.size() != 1 || !readAhead->Take(at, count, words))
-        count = kNotRead;
+      const int count = readAhead && m_stack.size() == 1 ? readAhead->Take(at, words) : kNotRead;
       ExecuteLine(&lines[at], count, words);
     }
     readAhead.reset();
@@ -772,9 +766,11 @@ class KCC_NcToolPath::Run {
       plainCount = NcWordScanner::ReadPlainBlock(lineText->c_str(), lineText->size(), words);
       plainWords = words;
     }
-    if (plainCount >= 0 && ExecutePlainBlock(plainCount, plainWords))
-      return;
-    m_block.Reset();
+    if (plainCount >= 0) {
+      if (ExecutePlainBlock(plainCount, plainWords))
+        return;
+      m_block.Reset();  // a plain block that needs a warning: read again word by word
+    }
     const KCString& line = *lineText;
     NcWordScanner scan(line.c_str(), line.size());
     NcWord w;

@@ -28,6 +28,15 @@ bool IsOperatorChar(char c) noexcept {
   return c == '+' || c == '-' || c == '*' || c == '/' || c == '=';
 }
 
+// Index just past the comment that starts with the '(' at `open`: a comment ends at its first ')' (no
+// nesting), as the file splitter reads it, or runs to the end of the block.
+std::size_t CommentEnd(const char* text, std::size_t length, std::size_t open) noexcept {
+  std::size_t k = open + 1;
+  while (k < length && text[k] != ')')
+    ++k;
+  return k < length ? k + 1 : length;
+}
+
 // Powers of ten that a double holds exactly.
 constexpr double kPow10[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
                              1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
@@ -92,11 +101,8 @@ int NcWordScanner::ReadPlainBlock(const char* text, std::size_t length, PlainWor
       ++i;
       continue;
     }
-    if (c == '(') {  // a comment ends at its first ')', as Next reads it
-      while (i < length && text[i] != ')')
-        ++i;
-      if (i < length)
-        ++i;
+    if (c == '(') {
+      i = CommentEnd(text, length, i);
       continue;
     }
     if (c == ';')
@@ -250,11 +256,7 @@ bool NcWordScanner::Next(NcWord& word) noexcept {
       return false;
     }
     if (c == '(') {
-      // A comment ends at its first ')' (no nesting), as the file splitter reads it.
-      std::size_t k = m_i + 1;
-      while (k < m_n && m_p[k] != ')')
-        ++k;
-      m_i = k < m_n ? k + 1 : m_n;
+      m_i = CommentEnd(m_p, m_n, m_i);
       continue;
     }
     if (!m_started) {

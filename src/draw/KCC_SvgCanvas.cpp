@@ -16,6 +16,7 @@
 #include <thread>
 
 #include "foundation/KCPlatformDetail.h"
+#include "foundation/KCXmlChars.h"
 #include "ncappkit/foundation/KCFileMan.h"
 
 namespace {
@@ -203,52 +204,10 @@ bool IsFinite(const KC2DPoint& p) {
 // sequence (overlong forms, surrogates and values above U+10FFFF included) is the Latin-1 character of
 // that value.
 char32_t NextChar(const std::string& text, std::size_t& i) {
-  const auto byte = [&text](std::size_t at) { return static_cast<unsigned char>(text[at]); };
-  const unsigned char lead = byte(i);
-  std::size_t length = 0;
-  char32_t cp = 0;
-  char32_t minimum = 0;
-  if (lead < 0x80) {
-    ++i;
-    return lead;
-  } else if ((lead & 0xE0) == 0xC0) {
-    length = 2, cp = lead & 0x1Fu, minimum = 0x80;
-  } else if ((lead & 0xF0) == 0xE0) {
-    length = 3, cp = lead & 0x0Fu, minimum = 0x800;
-  } else if ((lead & 0xF8) == 0xF0) {
-    length = 4, cp = lead & 0x07u, minimum = 0x10000;
-  }
-  bool valid = length > 0 && i + length <= text.size();
-  for (std::size_t k = 1; valid && k < length; ++k) {
-    valid = (byte(i + k) & 0xC0) == 0x80;
-    cp = (cp << 6) | (byte(i + k) & 0x3Fu);
-  }
-  valid = valid && cp >= minimum && cp <= 0x10FFFF && !(cp >= 0xD800 && cp <= 0xDFFF);
-  if (!valid) {
-    ++i;
-    return lead;
-  }
-  i += length;
-  return cp;
-}
-
-void AppendUtf8(std::string& out, char32_t cp) {
-  const auto put = [&out](char32_t bits) { out.push_back(static_cast<char>(bits)); };
-  if (cp < 0x80) {
-    put(cp);
-  } else if (cp < 0x800) {
-    put(0xC0 | (cp >> 6));
-    put(0x80 | (cp & 0x3F));
-  } else if (cp < 0x10000) {
-    put(0xE0 | (cp >> 12));
-    put(0x80 | ((cp >> 6) & 0x3F));
-    put(0x80 | (cp & 0x3F));
-  } else {
-    put(0xF0 | (cp >> 18));
-    put(0x80 | ((cp >> 12) & 0x3F));
-    put(0x80 | ((cp >> 6) & 0x3F));
-    put(0x80 | (cp & 0x3F));
-  }
+  std::uint32_t cp = 0;
+  if (ncappkit_detail::DecodeUtf8(text, i, cp))
+    return cp;
+  return static_cast<unsigned char>(text[i++]);
 }
 
 // `text` appended as XML character data, fit for element content and quoted attribute values alike. In
@@ -284,7 +243,7 @@ void AppendEscaped(std::string& out, const std::string& text, bool content = fal
         out += "&#13;";
         break;
       default:
-        AppendUtf8(out, (cp < 0x20 || cp == 0xFFFE || cp == 0xFFFF) ? kReplacementChar : cp);
+        ncappkit_detail::AppendUtf8(out, ncappkit_detail::IsXmlChar(cp) ? cp : kReplacementChar);
     }
   }
 }
@@ -484,7 +443,7 @@ void KCC_SvgCanvas::EllipseMark(const KC2DRectangle& bounds) {
 }
 
 std::uint32_t KCC_SvgCanvas::CurrentStyle() {
-  if (m_settingsChanged || m_styles.empty()) {
+  if (m_settingsChanged) {
     m_styles.push_back(m_settings);
     m_settingsChanged = false;
   }
@@ -616,7 +575,6 @@ void KCC_SvgCanvas::BeginGroup(const KCString& id, const KCString& label) {
   shape.first = m_texts.size();
   m_texts.push_back(id.str());
   m_texts.push_back(label.str());
-  m_hasLayers = m_hasLayers || !label.str().empty();
   ++m_openGroups;
   AddShape(shape);
 }
@@ -933,15 +891,6 @@ void KCC_SvgCanvas::WritePathData(std::string& out, const Shape& shape) const {
   // The other parts are written into texts of their own while this thread writes the first into `out`.
   std::vector<std::string> texts(parts - 1);
   std::vector<std::exception_ptr> errors(parts - 1);
-  std::vector<std::thread> threads;
-  // Every started thread is joined, also when writing the first part throws.
-  struct Joiner {
-    std::vector<std::thread>& threads;
-    ~Joiner() {
-      for (std::thread& thread : threads)
-        thread.join();
-    }
-  } joiner{threads};
   const auto writePart = [&](std::size_t i) {
     try {
       texts[i - 1].reserve((bounds[i + 1] - bounds[i]) * kBytesPerPoint);
@@ -951,17 +900,24 @@ void KCC_SvgCanvas::WritePathData(std::string& out, const Shape& shape) const {
       errors[i - 1] = std::current_exception();
     }
   };
-  for (std::size_t i = 1; i < parts; ++i) {
-    try {
-      threads.emplace_back(writePart, i);
-    } catch (const std::system_error&) {
-      writePart(i);  // no thread to be had: written here, after the first part's turn would have been
+  {
+    // Every started thread is joined at the end of this block, also when writing the first part throws.
+    struct Joined {
+      std::vector<std::thread> threads;
+      ~Joined() {
+        for (std::thread& thread : threads)
+          thread.join();
+      }
+    } started;
+    for (std::size_t i = 1; i < parts; ++i) {
+      try {
+        started.threads.emplace_back(writePart, i);
+      } catch (const std::system_error&) {
+        writePart(i);  // no thread to be had: written here, after the first part's turn would have been
+      }
     }
+    WritePathSteps(out, shape, bounds[0], bounds[1]);
   }
-  WritePathSteps(out, shape, bounds[0], bounds[1]);
-  for (std::thread& thread : threads)
-    thread.join();
-  threads.clear();
   for (std::size_t i = 1; i < parts; ++i) {
     if (errors[i - 1])
       std::rethrow_exception(errors[i - 1]);
@@ -979,7 +935,11 @@ std::string KCC_SvgCanvas::ToSvg() const {
   ncappkit_detail::AdviseLargePages(out.data(), out.capacity());
   out += "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
   out += "<svg xmlns=\"http://www.w3.org/2000/svg\"";
-  if (m_hasLayers)
+  // The layer namespace is declared only when a group is a layer (has a label, the second of its texts).
+  const bool hasLayers = std::any_of(m_shapes.begin(), m_shapes.end(), [this](const Shape& shape) {
+    return shape.kind == ShapeKind::GroupBegin && !m_texts[shape.first + 1].empty();
+  });
+  if (hasLayers)
     out += " xmlns:inkscape=\"http://www.inkscape.org/namespaces/inkscape\"";
   out += " version=\"1.1\" width=\"" + width + "\" height=\"" + height + "\" viewBox=\"0 0 " + width + " " +
          height + "\">\n";

@@ -276,11 +276,10 @@ class NCAPPKIT_EXPORT KCC_SvgCanvas : public KCCanvas {
   int m_precision;  // set by the constructor
   int m_writeThreads = 1;
   Settings m_settings;
-  bool m_settingsChanged = true;  // m_settings differs from the last snapshot (or there is none)
+  bool m_settingsChanged = true;  // m_settings differs from the last snapshot (true while there is none)
   KC2DPoint m_current;
   bool m_pathOpen = false;  // the last shape is a path that a LineTo may extend
   int m_openGroups = 0;
-  bool m_hasLayers = false;  // a group with a label was begun
   KCString m_title;
   KCString m_description;
   std::vector<Settings> m_styles;

@@ -370,23 +370,23 @@ class Plotter {
       m_heldY = y;
       return;
     }
-    EnsureGroup();
-    m_draw.DrawLine(m_lastX, m_lastY, x, y);
-    m_lastX = x;
-    m_lastY = y;
+    LineFromLast(x, y);
     m_held = false;
   }
   // Draw the held-back point, if any; the path then ends where the segments ended.
   void PathFlush() {
     const double dx = m_heldX - m_lastX;
     const double dy = m_heldY - m_lastY;
-    if (m_held && dx * dx + dy * dy >= kMinDrawnPixels * kMinDrawnPixels) {
-      EnsureGroup();
-      m_draw.DrawLine(m_lastX, m_lastY, m_heldX, m_heldY);
-      m_lastX = m_heldX;
-      m_lastY = m_heldY;
-    }
+    if (m_held && dx * dx + dy * dy >= kMinDrawnPixels * kMinDrawnPixels)
+      LineFromLast(m_heldX, m_heldY);
     m_held = false;
+  }
+  // A line from the last point drawn to (x, y), which becomes the last point.
+  void LineFromLast(double x, double y) {
+    EnsureGroup();
+    m_draw.DrawLine(m_lastX, m_lastY, x, y);
+    m_lastX = x;
+    m_lastY = y;
   }
   // Lift the pen: the next line starts a path of its own.
   void PathEnd() {
@@ -404,7 +404,6 @@ class Plotter {
     m_canvas.SetPenStyle(pen.GetLineStyle());
     m_canvas.SetPenWidth(pen.GetLineWidth());
     m_groupPending.clear();
-    m_groupOpen = true;
   }
 
   // A straight move; long ones get an arrow at their middle.
@@ -654,10 +653,9 @@ class Plotter {
         }
       }
       PathEnd();
+      if (m_groupPending.empty())
+        m_canvas.EndGroup();  // the layer drew something, so its group was begun
       m_groupPending.clear();
-      if (m_groupOpen)
-        m_canvas.EndGroup();
-      m_groupOpen = false;
     }
 
     m_canvas.BeginGroup("markers", "start and end");
@@ -815,12 +813,12 @@ class Plotter {
   KCC_ViewPortDraw m_port;
   KCC_SvgCanvas m_canvas;
   KCC_Draw m_draw;
-  // The layer being drawn: its tool and move kind, and its group's id and label until the group is begun.
+  // The layer being drawn: its tool and move kind, and its group's id and label until the group is begun
+  // (the id is never empty, so an empty m_groupPending within a layer means the group is open).
   std::uint32_t m_layerTool = 0;
   int m_layerKind = 0;
   std::string m_groupPending;
   std::string m_groupLabel;
-  bool m_groupOpen = false;
   // The end of the segment mapped last, in world and pixel coordinates (see MapEnds).
   bool m_endMapped = false;
   float m_mappedEnd[3] = {0.0f, 0.0f, 0.0f};

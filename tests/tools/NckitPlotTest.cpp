@@ -38,6 +38,23 @@ void ReplaceAll(std::string& text, const std::string& from, const std::string& t
     text.replace(at, from.size(), to);
 }
 
+// How often `what` occurs in `text`.
+std::size_t Occurrences(const std::string& text, const std::string& what) {
+  std::size_t found = 0;
+  for (std::size_t at = text.find(what); at != std::string::npos; at = text.find(what, at + 1))
+    ++found;
+  return found;
+}
+
+// The picture's text from `start` (the start tag of a group) to the group's first "</g>"; "" when `svg` has
+// no such group.
+std::string GroupText(const std::string& svg, const std::string& start) {
+  const std::size_t group = svg.find(start);
+  if (group == std::string::npos)
+    return std::string();
+  return svg.substr(group, svg.find("</g>", group) - group);
+}
+
 std::string CaseFolder(const std::string& name) {
   return TestDataPath("plot/" + name).string();
 }
@@ -176,18 +193,14 @@ TEST_F(NckitPlot, LatheProfileInTheXzViewKeepsItsArcAsAnArc) {
   const ChildResult xy = Run({"plot", file});
   ASSERT_EQ(xz.exitCode, 0) << xz.err;
   ASSERT_EQ(xy.exitCode, 0) << xy.err;
-  auto count = [](const std::string& svg, const std::string& command) {
-    const std::size_t group = svg.find("<g id=\"t1-arc\"");
-    const std::size_t end = svg.find("</g>", group);
-    std::size_t found = 0;
-    for (std::size_t at = svg.find(command, group); at < end; at = svg.find(command, at + 1))
-      ++found;
-    return found;
-  };
-  EXPECT_EQ(count(xz.out, " A"), 1u);
-  EXPECT_EQ(count(xz.out, " L"), 0u);
-  EXPECT_EQ(count(xy.out, " A"), 0u);
-  EXPECT_EQ(count(xy.out, " L"), 1u);
+  const std::string xzArcs = GroupText(xz.out, "<g id=\"t1-arc\"");
+  const std::string xyArcs = GroupText(xy.out, "<g id=\"t1-arc\"");
+  ASSERT_FALSE(xzArcs.empty());
+  ASSERT_FALSE(xyArcs.empty());
+  EXPECT_EQ(Occurrences(xzArcs, " A"), 1u);
+  EXPECT_EQ(Occurrences(xzArcs, " L"), 0u);
+  EXPECT_EQ(Occurrences(xyArcs, " A"), 0u);
+  EXPECT_EQ(Occurrences(xyArcs, " L"), 1u);
 }
 
 TEST_F(NckitPlot, RunOfTinyMovesIsMergedButReachesItsEnd) {
@@ -200,12 +213,9 @@ TEST_F(NckitPlot, RunOfTinyMovesIsMergedButReachesItsEnd) {
   TempDir dir;
   const ChildResult r = Run({"plot", dir.WriteFile("tiny.nc", program)});
   ASSERT_EQ(r.exitCode, 0) << r.err;
-  const std::size_t group = r.out.find("<g id=\"t0-feed\"");
-  ASSERT_NE(group, std::string::npos);
-  const std::string feed = r.out.substr(group, r.out.find("</g>", group) - group);
-  std::size_t lines = 0;
-  for (std::size_t at = feed.find(" L"); at != std::string::npos; at = feed.find(" L", at + 1))
-    ++lines;
+  const std::string feed = GroupText(r.out, "<g id=\"t0-feed\"");
+  ASSERT_FALSE(feed.empty());
+  const std::size_t lines = Occurrences(feed, " L");
   EXPECT_GT(lines, 600u);   // nothing is dropped beyond half a pixel...
   EXPECT_LT(lines, 1300u);  // ...but 2001 moves do not make 2001 lines
   // The corner at X20 Y0 is drawn: the tiny run ends exactly where the move along Y starts (whose first
@@ -223,14 +233,8 @@ TEST_F(NckitPlot, AlternatingKindsStillMakeOneGroupPerLayer) {
   TempDir dir;
   const ChildResult r = Run({"plot", dir.WriteFile("zigzag.nc", program)});
   ASSERT_EQ(r.exitCode, 0) << r.err;
-  auto count = [&r](const std::string& text) {
-    std::size_t found = 0;
-    for (std::size_t at = r.out.find(text); at != std::string::npos; at = r.out.find(text, at + 1))
-      ++found;
-    return found;
-  };
-  EXPECT_EQ(count("<g id=\"t0-feed\""), 1u);
-  EXPECT_EQ(count("<g id=\"t0-rapid\""), 1u);
+  EXPECT_EQ(Occurrences(r.out, "<g id=\"t0-feed\""), 1u);
+  EXPECT_EQ(Occurrences(r.out, "<g id=\"t0-rapid\""), 1u);
   EXPECT_LT(r.out.find("<g id=\"t0-rapid\""), r.out.find("<g id=\"t0-feed\""));
 }
 
@@ -241,10 +245,9 @@ TEST_F(NckitPlot, InconsistentArcIsDrawnInTheMarkedLayer) {
       dir.WriteFile("bad-arc.nc", "%\nO0012 (BAD ARC)\nG90 G1 X0 Y0 F500\nG2 X20 Y0 I5 J0\nG1 X30\nM30\n%\n");
   const ChildResult r = Run({"plot", file});
   ASSERT_EQ(r.exitCode, 0) << r.err;
-  const std::size_t group =
-      r.out.find("<g id=\"t0-marked\" inkscape:groupmode=\"layer\" inkscape:label=\"no tool marked\">");
-  ASSERT_NE(group, std::string::npos);
-  const std::string marked = r.out.substr(group, r.out.find("</g>", group) - group);
+  const std::string marked =
+      GroupText(r.out, "<g id=\"t0-marked\" inkscape:groupmode=\"layer\" inkscape:label=\"no tool marked\">");
+  ASSERT_FALSE(marked.empty());
   EXPECT_NE(marked.find("stroke=\"#ff8200\" stroke-width=\"2\" stroke-dasharray=\"12,6,4,6\""),
             std::string::npos)
       << marked.substr(0, 400);
